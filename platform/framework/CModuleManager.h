@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+#include "framework/ModuleInterface.h"
+
+/// The framework's register of modules, through which it drives their life.
+class CModuleManager
+{
+public:
+    /// The framework's one manager.
+    static CModuleManager& GetInstance();
+
+    /// Enters a module. The manager borrows it: the module outlives its entry.
+    /// @throws std::invalid_argument when the module, or another one of the same name, is entered already
+    void RegisterModule(ModuleInterface* module);
+
+    /// Takes a module out again; a module that is not entered is ignored.
+    void UnregisterModule(ModuleInterface* module);
+
+    /// The entered modules, in the order in which they registered.
+    const std::vector<ModuleInterface*>& modules() const;
+
+private:
+    CModuleManager() = default;
+
+    std::vector<ModuleInterface*> m_modules;
+};
