@@ -16,6 +16,9 @@ struct VemTraceHeader
     const char* function = nullptr;
 };
 
+/// A channel's configuration, the trace library's own.
+struct VemTraceConfiguration;
+
 /// A trace channel, known to the trace library by its name.
 ///
 /// A message is written in one of two styles, both started by beginLogMsg():
@@ -54,7 +57,5 @@ public:
     std::ostream& discardingStream();
 
 private:
-    class Channel;
-
-    Channel* m_channel;
+    VemTraceConfiguration* m_configuration;
 };

@@ -1,5 +1,6 @@
 #include "doubles/RecordingTrace.h"
 
+#include <locale>
 #include <ostream>
 #include <streambuf>
 #include <tuple>
@@ -47,6 +48,28 @@ class DiscardingBuffer : public std::streambuf
     }
 };
 
+/// A stream into one of the buffers. It hands on what the buffer throws, and writes numbers as a fresh stream would.
+template <typename Buffer>
+class RecordingStream
+{
+public:
+    RecordingStream()
+    {
+        m_stream.exceptions(std::ios::badbit);
+    }
+
+    std::ostream& fresh()
+    {
+        m_stream.clear();
+        m_stream.imbue(std::locale());
+        return m_stream;
+    }
+
+private:
+    Buffer m_buffer;
+    std::ostream m_stream{&m_buffer};
+};
+
 std::string describe(const VemTraceHeader& header)
 {
     if (header.file == nullptr && header.function == nullptr && header.line == 0)
@@ -88,6 +111,8 @@ void RecordingTrace::reset()
     messages.clear();
     discarded.clear();
     outsideOfAny.clear();
+    afterActiveTest = nullptr;
+    beforeBegin = nullptr;
 }
 
 RecordingTrace& trace()
@@ -106,15 +131,26 @@ TraceMessage lineMessage(const std::string& function, const std::string& text)
     return {KelDebugCmdChannel, 1, placeIn(function), text, "flush", {}};
 }
 
+TraceMessage placelessMessage(const std::string& channel, const std::string& text)
+{
+    return {channel, 1, "(empty)", text, "flush", {}};
+}
+
+TraceMessage bufferMessage(const std::string& function, const std::string& resultText)
+{
+    const std::string reason = "failed: " + resultText;
+    return {KelDebugCmdChannel, 1, placeIn(function), function + "(): " + reason, "end", {function, "(): ", reason}};
+}
+
 } // namespace doubles
 
-class VemTrace::Channel
+struct VemTraceConfiguration
 {
-public:
-    std::string name;
+    std::string channelName;
 };
 
-VemTrace::VemTrace(const std::string& channelName, VemTraceLevel level) : m_channel(new Channel{channelName})
+VemTrace::VemTrace(const std::string& channelName, VemTraceLevel level)
+    : m_configuration(new VemTraceConfiguration{channelName})
 {
     trace().created[channelName] = level;
     trace().levels[channelName] = level;
@@ -122,17 +158,26 @@ VemTrace::VemTrace(const std::string& channelName, VemTraceLevel level) : m_chan
 
 VemTrace::~VemTrace()
 {
-    delete m_channel;
+    delete m_configuration;
 }
 
 bool VemTrace::isActive() const
 {
-    return trace().levels[m_channel->name] > 0;
+    const bool active = trace().levels[m_configuration->channelName] > 0;
+    if (trace().afterActiveTest)
+    {
+        trace().afterActiveTest();
+    }
+    return active;
 }
 
 void VemTrace::beginLogMsg(VemTraceLevel level, const VemTraceHeader& header)
 {
-    trace().messages.push_back({m_channel->name, level, describe(header), "", "none", {}, header.line});
+    if (trace().beforeBegin)
+    {
+        trace().beforeBegin();
+    }
+    trace().messages.push_back({m_configuration->channelName, level, describe(header), "", "none", {}, header.line});
 }
 
 void VemTrace::logMsgData(const char* data, std::size_t length)
@@ -148,14 +193,12 @@ void VemTrace::endLogMsg()
 
 std::ostream& VemTrace::messageStream()
 {
-    static MessageBuffer buffer;
-    static std::ostream stream(&buffer);
-    return stream;
+    static RecordingStream<MessageBuffer> stream;
+    return stream.fresh();
 }
 
 std::ostream& VemTrace::discardingStream()
 {
-    static DiscardingBuffer buffer;
-    static std::ostream stream(&buffer);
-    return stream;
+    static RecordingStream<DiscardingBuffer> stream;
+    return stream.fresh();
 }

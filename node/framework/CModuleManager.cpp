@@ -1,0 +1,32 @@
+#include "framework/CModuleManager.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+CModuleManager& CModuleManager::GetInstance()
+{
+    static CModuleManager manager;
+    return manager;
+}
+
+void CModuleManager::RegisterModule(ModuleInterface* module)
+{
+    const std::string& name = module->registration().name;
+    const bool known = std::any_of(m_modules.begin(), m_modules.end(),
+                                   [&](const ModuleInterface* other) { return other->registration().name == name; });
+    if (known)
+    {
+        throw std::invalid_argument("module " + name + ": found registered already, expected a name of its own");
+    }
+    m_modules.push_back(module);
+}
+
+void CModuleManager::UnregisterModule(ModuleInterface* module)
+{
+    std::erase(m_modules, module);
+}
+
+const std::vector<ModuleInterface*>& CModuleManager::modules() const
+{
+    return m_modules;
+}

@@ -1,0 +1,3 @@
+#include "framework/IInterface.h"
+
+IInterface::~IInterface() = default;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "radio/RadioChannel.h"
+
+/// How the services word their answers.
+namespace node::services
+{
+
+/// The result code of a refusal: of the top-level API, and of the other interfaces.
+inline constexpr std::int32_t TopApiRefusal = 1;
+inline constexpr std::int32_t PlatformRefusal = 0x8000;
+
+/// The text of a refusal for a channel that the link does not have.
+std::string unknownChannel(RadioChannel channel);
+
+/// Decibels as the records count them, rounded to the nearest.
+std::int32_t hundredths(double decibels);
+std::int32_t tenths(double decibels);
+
+} // namespace node::services

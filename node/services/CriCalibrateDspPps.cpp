@@ -1,0 +1,42 @@
+#include "kel_top_api/CriCalibrateDspPps.h"
+
+#include "node/services/TopApi.h"
+
+namespace kel_top_api
+{
+
+namespace
+{
+
+node::radio::PpsRequest requestOf(CriCalibrateDspPps::CalibrationMode mode)
+{
+    using node::radio::PpsRequest;
+    using enum CriCalibrateDspPps::CalibrationMode;
+    switch (mode)
+    {
+    case Mode0:
+        return PpsRequest::Coarse;
+    case Mode1:
+        return PpsRequest::Fine;
+    case Mode2:
+        return PpsRequest::Auto;
+    case Mode3:
+        break;
+    }
+    return PpsRequest::Manual;
+}
+
+} // namespace
+
+StandardResponse criCalibrateDspPps(const CriCalibrateDspPps::Command& command)
+{
+    StandardResponse response;
+    if (auto* const link = node::services::linkOf(command.radioChannel, response))
+    {
+        link->change(command.radioChannel, [&](node::radio::Channel& channel)
+                     { calibrate(channel.pps, requestOf(command.calibrationMode), command.calibrationValue); });
+    }
+    return response;
+}
+
+} // namespace kel_top_api
