@@ -8,7 +8,8 @@ namespace kel::device::kelDebugCmd::util
 
 std::string makeDecibelString(int value, std::string unit)
 {
-    return makeDecimalValString(value) + unit;
+    unit.insert(0, makeDecimalValString(value));
+    return unit;
 }
 
 std::string makeDbString(int value)

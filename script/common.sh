@@ -1,0 +1,39 @@
+# What the scripts share. Sourced, from the project's root folder.
+
+# The packages of script/packages.txt that are for one of the given users and are not installed.
+missing_packages() {
+    local user name
+    while read -r user name; do
+        case " $* " in
+        *" $user "*) [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || echo "$name" ;;
+        esac
+    done < <(grep -v '^#' script/packages.txt)
+}
+
+# Installs the packages that the given users still miss, and says which.
+install_packages() {
+    local missing as_root=()
+    mapfile -t missing < <(missing_packages "$@")
+    [ ${#missing[@]} -gt 0 ] || return 0
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Not installed: ${missing[*]}" >&2
+            echo "This needs root or sudo. Have somebody run: apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing: ${missing[*]}" >&2
+    "${as_root[@]}" apt-get update -q >&2
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends "${missing[@]}" >&2
+}
+
+# build PRESET TARGET...: configures once and builds, with progress on standard error; silent where nothing is to do.
+build() {
+    local preset=$1
+    shift
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >&2
+    if ! ninja -C "build/$preset" -n "$@" | grep -q '^ninja: no work to do'; then
+        ninja -C "build/$preset" "$@" >&2
+    fi
+}
