@@ -11,9 +11,10 @@ public:
     /// The framework's one manager.
     static CModuleManager& GetInstance();
 
-    /// Enters a module. The manager borrows it: the module outlives its entry.
-    /// @throws std::invalid_argument when the module, or another one of the same name, is entered already
+    /// Enters a module, which the manager borrows. A refusal is thrown.
     void RegisterModule(ModuleInterface* module);
+
+    // The framework's own; modules call none of these.
 
     /// Takes a module out again; a module that is not entered is ignored.
     void UnregisterModule(ModuleInterface* module);

@@ -53,7 +53,7 @@ public:
     virtual std::int32_t onPhasePostDspRecovery();
     virtual std::int32_t onPhaseEnableAlarmThread();
 
-    /// What the constructor was given, for the framework's own use.
+    /// What the constructor was given. The framework's own; modules do not call it.
     struct Registration
     {
         unsigned int number;

@@ -85,7 +85,7 @@ struct CriGetRadioChannelCapability
         std::uint32_t FrequencyBand = 0;
         std::uint32_t FrequencySubBand = 0;
         std::string DuplexType;
-        std::vector<std::uint32_t> AvailableRSECs; ///< codes of radio spectrum efficiency classes
+        std::vector<std::uint32_t> AvailableRSECs; ///< RSEC codes of the equipment classes
         bool TapsCapable = false;
         bool RfLoopAvailable = false;
 

@@ -12,8 +12,8 @@ enum class EDPDResult : std::int32_t
     Failure = 0x8000,
 };
 
-/// Predistortion coefficients, in the controller's own coding.
-struct DpdCoeffs
+/// Predistortion coefficients, in the controller's own coding; aligned for a controller that works in 32-bit words.
+struct alignas(std::uint32_t) DpdCoeffs
 {
     std::array<std::uint8_t, 20> bytes{};
 };

@@ -41,7 +41,8 @@ public:
     /// @return 0, or 0x8000 when an interface is missing; without a DPD controller the other commands still work
     std::int32_t onModuleInit() override;
 
-    /// The carrier-termination report. Answers 0 in every case: the report itself tells of a failure.
+    /// The carrier-termination report. Answers 0 in every case: the report itself tells of a failure. The report object
+    /// that it needs is there once onModuleInit() has found "IRlbspKelApi".
     int getCtStatus(RadioChannel channel, std::string& report) override;
 
     /// The modem's status as text.
@@ -53,34 +54,48 @@ public:
     /// The time that the signal takes over the hop, in ns.
     int getPpsHopLengthTime(RadioChannel channel, std::string& report) override;
 
-    /// Calibrates the PPS output. @param mode  0 to 3, others fail without a call
+    /// Calibrates the PPS output.
+    /// @param mode   0 to 3, others fail without a call
+    /// @param value  passed on as it is
     int calibratePps(RadioChannel channel, int mode, unsigned short value) override;
 
+    /// Chooses the output mode of the PPS output.
     /// @param mode  0 to 2, others fail without a call
     int setPpsOutputMode(RadioChannel channel, int mode) override;
 
-    /// @param source  0 to 2, others fail without a call
+    /// Chooses the source of the PPS output.
+    /// @param source     0 to 2, others fail without a call
+    /// @param parameter  passed on as it is
     int setPpsSource(RadioChannel channel, int source, int parameter) override;
 
     /// Starts DPD with the controller's own start parameter. Fails without a trace where there is no controller,
     /// as the other DPD commands do.
     int startDpd(RadioChannel channel) override;
+
+    /// Stops DPD.
     int stopDpd(RadioChannel channel) override;
+
+    /// Writes the predistortion coefficients, as they are.
     int setDpdCoefficients(RadioChannel channel, DpdCoeffs coefficients) override;
 
+    /// Reads the predistortion coefficients.
     /// @param coefficients  filled by the controller, and left as the controller left it on failure
     int getDpdCoefficients(RadioChannel channel, DpdCoeffs* coefficients) override;
 
+    /// Mutes or unmutes the slave of the canceller (XPIC).
     /// @param mute  0 unmutes, every other value mutes
     int setXpicSlaveMute(RadioChannel channel, unsigned char mute) override;
 
+    /// Starts an acquisition of the canceller.
     /// @param acquireMode    0 to 2; others are sent as "out of range" for the API to answer
     /// @param acquireOption  0 to 3; others are sent as "out of range" for the API to answer
     int xpicAcquireStart(RadioChannel channel, unsigned char acquireMode, unsigned char acquireOption) override;
 
+    /// Reads the canceller's preamble.
     /// @param preamble  receives 0 to 3, or 255 for a preamble outside that range; untouched on failure
     int getXpicPreamble(RadioChannel channel, unsigned char* preamble) override;
 
+    /// Chooses the canceller's preamble.
     /// @param preamble  0 to 3; others are sent as "out of range" for the API to answer
     int setXpicPreamble(RadioChannel channel, unsigned char preamble) override;
 

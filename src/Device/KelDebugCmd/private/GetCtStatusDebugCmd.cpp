@@ -158,14 +158,14 @@ void GetCtStatusDebugCmd::get(RadioChannel channel, std::string& report)
     appendBanner(text, channel);
 
     const auto status = kel_top_api::criGetRadioChannelStatus({channel});
-    if (isFailure(status))
+    if (apiFailed(status))
     {
         return giveUp(trace_, status.resultText, report);
     }
     appendStatus(text, status);
 
     const auto capability = kel_top_api::criGetRadioChannelCapability({channel});
-    if (isFailure(capability))
+    if (apiFailed(capability))
     {
         return giveUp(trace_, capability.resultText, report);
     }
@@ -173,7 +173,7 @@ void GetCtStatusDebugCmd::get(RadioChannel channel, std::string& report)
 
     RadioChannelInfo info;
     const auto result = m_radioChannelNearEnd.getRadioChannelInfo({channel}, &info);
-    if (isFailure(result.resultCode))
+    if (platformFailed(result.resultCode))
     {
         return giveUp(trace_, result.errorText, report);
     }

@@ -25,12 +25,6 @@ public:
     /// one of the three queries fails. Only the standard library's own failures are thrown; `report` is then as before.
     void get(RadioChannel channel, std::string& report);
 
-private:
-    ITiManageRadioChannelNearEnd& m_radioChannelNearEnd;
-
-    static VemTrace trace_;
-
-public:
     // Labels of the report, each padded to the column of the values.
     static const std::string TxActualStatusName;
     static const std::string RadioChannelStatusName;
@@ -55,8 +49,14 @@ public:
     static const std::string RadioFrameIdName;
     static const std::string MinModulationAndCodeStringName;
     static const std::string MaxModulationAndCodeStringName;
-    static const std::string TxFrequencyName; // the report uses the Selected pair; this one is for others
+    // The Selected pair once more. Both are kept; the report uses the Selected one.
+    static const std::string TxFrequencyName;
     static const std::string RxFrequencyName;
+
+private:
+    ITiManageRadioChannelNearEnd& m_radioChannelNearEnd;
+
+    static VemTrace trace_;
 };
 
 } // namespace kel::device::kelDebugCmd

@@ -32,7 +32,8 @@ using kel_top_api::TiManageXpic;
 /// The framework reads it for as long as the module lives.
 constexpr unsigned long RegistrationList[] = {11};
 
-/// The place of the caller, for the trace: its line, its name.
+/// The place of the caller, for the trace: its line, and its bare name where the standard's source_location would give
+/// the whole signature.
 VemTraceHeader here(int line = __builtin_LINE(), const char* function = __builtin_FUNCTION())
 {
     return {"src/Device/KelDebugCmd/private/KelDebugCmd", line, function};
@@ -63,10 +64,17 @@ TiManageXpic::Command xpicCommand(RadioChannel channel)
 
 // How a command ends: the service's answer is judged, and a failure traced in the style of the command's family.
 
-int endDpd(EDPDResult result, VemTrace& trace, const VemTraceHeader& header, std::string_view reason)
+/// A channel without a controller fails without a trace.
+template <typename Call>
+int commandDpd(IDpdControllerSplit* dpd, const Call& call, VemTrace& trace, const VemTraceHeader& header,
+               std::string_view reason)
 {
-    const auto code = static_cast<std::int32_t>(result);
-    if (isFailure(code))
+    if (dpd == nullptr)
+    {
+        return Failed;
+    }
+    const auto code = static_cast<std::int32_t>(call(*dpd));
+    if (platformFailed(code))
     {
         traceLine(trace, header, header.function, reason, std::to_string(code));
         return Failed;
@@ -76,7 +84,7 @@ int endDpd(EDPDResult result, VemTrace& trace, const VemTraceHeader& header, std
 
 int endXpic(const TiManageXpic::Response& response, VemTrace& trace, const VemTraceHeader& header)
 {
-    if (isFailure(response))
+    if (apiFailed(response))
     {
         traceText(trace, header, response.resultText);
         return Failed;
@@ -86,7 +94,7 @@ int endXpic(const TiManageXpic::Response& response, VemTrace& trace, const VemTr
 
 int endPps(const BaseResponse& response, VemTrace& trace, const VemTraceHeader& header)
 {
-    if (isFailure(response))
+    if (apiFailed(response))
     {
         traceBuffer(trace, header, response.resultText);
         return Failed;
@@ -111,11 +119,12 @@ KelDebugCmd::~KelDebugCmd() = default;
 
 std::int32_t KelDebugCmd::onModuleInit()
 {
-    auto* const boardSupport = lookUp<IRlbspKelApi>("IRlbspKelApi");
+    const std::string boardSupportName = "IRlbspKelApi";
+    auto* const boardSupport = lookUp<IRlbspKelApi>(boardSupportName);
     if (boardSupport == nullptr)
     {
         // Readers of the trace search for "toIRlbspKelApi": no blank.
-        traceLine(m_trace, here(), "onModuleInit", "(): failed to get interface to", "IRlbspKelApi");
+        traceLine(m_trace, here(), "onModuleInit", "(): failed to get interface to", boardSupportName);
         return PlatformFailure;
     }
     boardSupport->installDebugCmdCallback(this);
@@ -131,7 +140,7 @@ std::int32_t KelDebugCmd::onModuleInit()
             return PlatformFailure;
         }
     }
-    return Done;
+    return PlatformSuccess;
 }
 
 // The commands.
@@ -147,7 +156,7 @@ int KelDebugCmd::getBcmModemStatus(RadioChannel channel, std::string& report)
     DspModemStatus status;
     status.request = 2;
     const auto result = m_dspModemStatus.getDspModemStatus(channel, &status);
-    if (isFailure(result.resultCode))
+    if (platformFailed(result.resultCode))
     {
         traceLine(m_trace, {}, "getBcmModemStatus", " failed: ", result.errorText);
         report = util::DataNotRetrievedText;
@@ -205,42 +214,28 @@ int KelDebugCmd::setPpsSource(RadioChannel channel, int source, int parameter)
 
 int KelDebugCmd::startDpd(RadioChannel channel)
 {
-    IDpdControllerSplit* const dpd = m_dpdController[channel - 1];
-    if (dpd == nullptr)
-    {
-        return Failed;
-    }
-    return endDpd(dpd->start(dpd->getStartParameter()), m_trace, here(), "(): failed to start dpd, EDPDResult = ");
+    const auto start = [](IDpdControllerSplit& dpd) { return dpd.start(dpd.getStartParameter()); };
+    return commandDpd(m_dpdController[channel - 1], start, m_trace, here(), "(): failed to start dpd, EDPDResult = ");
 }
 
 int KelDebugCmd::stopDpd(RadioChannel channel)
 {
-    IDpdControllerSplit* const dpd = m_dpdController[channel - 1];
-    if (dpd == nullptr)
-    {
-        return Failed;
-    }
-    return endDpd(dpd->stop(), m_trace, here(), "(): failed to stop dpd, EDPDResult = ");
+    const auto stop = [](IDpdControllerSplit& dpd) { return dpd.stop(); };
+    return commandDpd(m_dpdController[channel - 1], stop, m_trace, here(), "(): failed to stop dpd, EDPDResult = ");
 }
 
 int KelDebugCmd::setDpdCoefficients(RadioChannel channel, DpdCoeffs coefficients)
 {
-    IDpdControllerSplit* const dpd = m_dpdController[channel - 1];
-    if (dpd == nullptr)
-    {
-        return Failed;
-    }
-    return endDpd(dpd->setCoeffs(coefficients), m_trace, here(), "(): failed to set dpd coefficients, EDPDResult = ");
+    const auto set = [&](IDpdControllerSplit& dpd) { return dpd.setCoeffs(coefficients); };
+    return commandDpd(m_dpdController[channel - 1], set, m_trace, here(),
+                      "(): failed to set dpd coefficients, EDPDResult = ");
 }
 
 int KelDebugCmd::getDpdCoefficients(RadioChannel channel, DpdCoeffs* coefficients)
 {
-    IDpdControllerSplit* const dpd = m_dpdController[channel - 1];
-    if (dpd == nullptr)
-    {
-        return Failed;
-    }
-    return endDpd(dpd->getCoeffs(coefficients), m_trace, here(), "(): failed to get dpd coefficients, EDPDResult = ");
+    const auto get = [&](IDpdControllerSplit& dpd) { return dpd.getCoeffs(coefficients); };
+    return commandDpd(m_dpdController[channel - 1], get, m_trace, here(),
+                      "(): failed to get dpd coefficients, EDPDResult = ");
 }
 
 int KelDebugCmd::setXpicSlaveMute(RadioChannel channel, unsigned char mute)
@@ -284,7 +279,7 @@ int KelDebugCmd::getXpicStatus(RadioChannel channel, std::string& report)
     auto command = xpicCommand(channel);
     command.GetStatus = true;
     const auto response = kel_top_api::tiManageXpic(command);
-    if (isFailure(response))
+    if (apiFailed(response))
     {
         report = response.resultText; // here the API's text is the report; the trace stays silent
         return Failed;

@@ -34,20 +34,21 @@ inline void traceLine(VemTrace& trace, const VemTraceHeader& header, std::string
     failureStream(trace, header) << function << reason << value << std::endl;
 }
 
-/// Bare style: the service's text alone. The line is not ended; the text may be the first half of one.
+/// Bare style: the service's text alone. Nothing is added to it, not even a line end.
 inline void traceText(VemTrace& trace, const VemTraceHeader& header, std::string_view text)
 {
     failureStream(trace, header) << text;
 }
 
 /// Message-buffer style: "function(): failed: text". Nothing is formatted while the channel is not active.
+/// @param header  names its function
 inline void traceBuffer(VemTrace& trace, const VemTraceHeader& header, std::string_view text)
 {
     if (!trace.isActive())
     {
         return;
     }
-    const int errorNumber = errno; // callers look at it after a failed command: composing the text must not show
+    const int errorNumber = errno; // tracing a failure must not disturb what the caller may still look at
     const std::string message = std::string("failed: ").append(text);
     errno = errorNumber;
 

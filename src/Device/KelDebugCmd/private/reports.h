@@ -24,7 +24,8 @@ inline std::string ppsCalibrationReport(const kel_top_api::CriGetCalibrationStat
         "--- [2]: Fine calibration not completed\n"
         "--- [3]: Calibration completed in manual mode\n"
         "--- [4]: Fine calibration in auto mode\n"
-        "--- [5]: Calibration failed: " + std::to_string(printedFailureReason(response.calibrationFailureReason)) + "\n";
+        "--- [5]: Calibration failed: " +
+            std::to_string(printedFailureReason(response.calibrationFailureReason)) + "\n";
     // clang-format on
 
     // The status as the API gave it: one that is unknown is printed as failed too, but has no reason to explain.

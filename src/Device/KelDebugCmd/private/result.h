@@ -11,16 +11,17 @@ namespace kel::device::kelDebugCmd
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
 
-/// The first failing code of the platform's interfaces. Codes are signed: negative ones are success.
+/// The platform's interfaces and the framework fail from 0x8000 on. Codes are signed: negative ones are success.
+inline constexpr std::int32_t PlatformSuccess = 0;
 inline constexpr std::int32_t PlatformFailure = 0x8000;
 
-inline bool isFailure(std::int32_t platformResultCode)
+inline bool platformFailed(std::int32_t resultCode)
 {
-    return platformResultCode >= PlatformFailure;
+    return resultCode >= PlatformFailure;
 }
 
 /// The top-level API draws its line elsewhere: every code above 0 is a failure.
-inline bool isFailure(const kel_top_api::BaseResponse& response)
+inline bool apiFailed(const kel_top_api::BaseResponse& response)
 {
     return response.resultCode > 0;
 }

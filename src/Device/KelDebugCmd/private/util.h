@@ -1,6 +1,6 @@
 #pragma once
 
-// The trace channels write to the standard streams, which must outlive this file's and the sources' own statics.
+// First, for its initialiser: the standard streams are made before the statics of every source and go after them.
 #include <iostream>
 #include <string>
 
