@@ -41,12 +41,18 @@ const Operation& operationOf(const std::string& name)
     return *operation;
 }
 
+/// @throws UsageError when there are more words than `count`
+void expectEnd(const std::vector<std::string>& words, std::size_t count)
+{
+    if (words.size() > count)
+    {
+        throw UsageError(fmt::format("{}: argument {}", words.front(), count), quoted(words[count]), "nothing more");
+    }
+}
+
 std::string help(const std::vector<std::string>& words)
 {
-    if (words.size() > 2)
-    {
-        throw UsageError("help: argument 2", quoted(words[2]), "nothing more");
-    }
+    expectEnd(words, 2);
     return words.size() == 1 ? overview() : describe(operationOf(words[1]));
 }
 
@@ -70,6 +76,7 @@ Status Session::carryOut(const std::vector<std::string>& words, const std::strin
     }
     catch (const std::exception& error)
     {
+        trace::completeOpenMessage();
         m_errors << "kel-node: " << place << words.front() << ": threw " << error.what() << std::endl;
         return Status::CommandFailed;
     }
@@ -77,6 +84,12 @@ Status Session::carryOut(const std::vector<std::string>& words, const std::strin
 
 Status Session::call(const std::vector<std::string>& words, const std::string& place)
 {
+    if (words.front() == "exit")
+    {
+        expectEnd(words, 1);
+        m_left = true;
+        return Status::Done;
+    }
     if (words.front() == "help")
     {
         print(help(words));
@@ -109,16 +122,12 @@ Status Session::runLines(std::istream& input, Lines kind)
         print("A simulated node with two radio channels. \"help\" lists the commands, \"exit\" leaves.\n");
     }
     std::string line;
-    for (int number = 1; prompt(atPrompt) && std::getline(input, line); ++number)
+    for (int number = 1; !m_left && prompt(atPrompt) && std::getline(input, line); ++number)
     {
         const auto words = split(line);
         if (words.empty())
         {
             continue;
-        }
-        if (words.front() == "exit")
-        {
-            return Status::Done;
         }
         const Status status = carryOut(words, atPrompt ? "" : fmt::format("line {}: ", number));
         if (status != Status::Done && !atPrompt)
@@ -126,7 +135,7 @@ Status Session::runLines(std::istream& input, Lines kind)
             return status;
         }
     }
-    if (atPrompt)
+    if (atPrompt && !m_left)
     {
         print("\n");
     }

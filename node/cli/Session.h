@@ -48,6 +48,7 @@ private:
     IRlbspKelApi::KelDebugCmdCallback& m_commands;
     std::ostream& m_output;
     std::ostream& m_errors;
+    bool m_left = false;       ///< "exit" was said
     bool m_lineIsOpen = false; ///< what was printed last did not end its line
 };
 

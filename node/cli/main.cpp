@@ -39,6 +39,7 @@ Status runProgram(int argc, char** argv)
         {},
     };
     opterr = 0;
+    const char* const word = optind < argc ? argv[optind] : "";
     // "+": what follows the command is the command's, negative numbers among it.
     switch (getopt_long(argc, argv, "+h", options, nullptr))
     {
@@ -51,7 +52,7 @@ Status runProgram(int argc, char** argv)
         std::cout << "kel-node " KEL_VERSION "\n";
         return Status::Done;
     default:
-        throw UsageError("option", quoted(argv[optind - 1]), "--help or --version");
+        throw UsageError("option", quoted(word), "--help or --version");
     }
 }
 

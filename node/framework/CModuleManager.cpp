@@ -11,6 +11,7 @@ CModuleManager& CModuleManager::GetInstance()
 
 void CModuleManager::RegisterModule(ModuleInterface* module)
 {
+    // A name is a module's identity here: neither the same module nor one of the same name is entered twice.
     const std::string& name = module->registration().name;
     const bool known = std::any_of(m_modules.begin(), m_modules.end(),
                                    [&](const ModuleInterface* other) { return other->registration().name == name; });

@@ -29,15 +29,23 @@ const Hop& RadioLink::hop() const
     return m_hop;
 }
 
-Channel RadioLink::channel(std::uint32_t channel) const
+Snapshot RadioLink::snapshot(std::uint32_t channel) const
 {
     const std::lock_guard lock(m_mutex);
-    return m_channels.at(channel - 1);
+    const Channel& state = m_channels.at(channel - 1);
+    return {state, measure(channel, state)};
 }
 
-Readings RadioLink::readings(std::uint32_t channel) const
+Snapshot RadioLink::change(std::uint32_t channel, const std::function<void(Channel&)>& change)
 {
-    const Channel state = this->channel(channel);
+    const std::lock_guard lock(m_mutex);
+    Channel& state = m_channels.at(channel - 1);
+    change(state);
+    return {state, measure(channel, state)};
+}
+
+Readings RadioLink::measure(std::uint32_t channel, const Channel& state) const
+{
     const double frequency_GHz = m_hop.txFrequency_kHz / 1e6;
     const bool cancelling = state.xpic.acquired && !state.xpic.slaveMuted;
 
@@ -53,12 +61,6 @@ Readings RadioLink::readings(std::uint32_t channel) const
     readings.slaveCarrierOffset_Hz = (channel == 1 ? 1 : -1) * ReferenceDifference_ppm * frequency_GHz * 1e3;
     readings.hopLengthTime_ns = hopLengthTime_ns(m_hop.distance_km);
     return readings;
-}
-
-void RadioLink::change(std::uint32_t channel, const std::function<void(Channel&)>& change)
-{
-    const std::lock_guard lock(m_mutex);
-    change(m_channels.at(channel - 1));
 }
 
 } // namespace node::radio

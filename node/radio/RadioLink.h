@@ -63,6 +63,13 @@ struct Readings
     double hopLengthTime_ns = 0;
 };
 
+/// A channel at one moment.
+struct Snapshot
+{
+    Channel state;
+    Readings readings; ///< in that state
+};
+
 /// The link and its state. All members may be called from any thread.
 class RadioLink
 {
@@ -73,16 +80,16 @@ public:
 
     const Hop& hop() const;
 
-    /// What was set on a channel. @param channel 1 or 2, as everywhere here
-    Channel channel(std::uint32_t channel) const;
-
-    /// What the channel measures in that state.
-    Readings readings(std::uint32_t channel) const;
+    /// @param channel  1 or 2, as everywhere here
+    Snapshot snapshot(std::uint32_t channel) const;
 
     /// Changes what is set on a channel, in one step for everybody else.
-    void change(std::uint32_t channel, const std::function<void(Channel&)>& change);
+    /// @return the channel right after the change
+    Snapshot change(std::uint32_t channel, const std::function<void(Channel&)>& change);
 
 private:
+    Readings measure(std::uint32_t channel, const Channel& state) const;
+
     const Hop m_hop;
     mutable std::mutex m_mutex;
     std::array<Channel, NumberOfChannels> m_channels;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "node/radio/RadioLink.h"
 #include "radio/RadioChannel.h"
 
 /// How the services word their answers.
@@ -15,6 +16,9 @@ inline constexpr std::int32_t PlatformRefusal = 0x8000;
 
 /// The text of a refusal for a channel that the link does not have.
 std::string unknownChannel(RadioChannel channel);
+
+/// The state of a canceller.
+std::string stateOf(const radio::Xpic& xpic);
 
 /// Decibels as the records count them, rounded to the nearest.
 std::int32_t hundredths(double decibels);

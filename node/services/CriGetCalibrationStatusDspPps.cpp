@@ -57,7 +57,7 @@ criGetCalibrationStatusDspPps(const CriGetCalibrationStatusDspPps::Command& comm
     CriGetCalibrationStatusDspPps::Response response;
     if (const auto* const link = node::services::linkOf(command.radioChannel, response))
     {
-        const auto pps = link->channel(command.radioChannel).pps;
+        const auto pps = link->snapshot(command.radioChannel).state.pps;
         response.calibrationStatus = numberOf(pps.calibration);
         response.calibrationFailureReason = numberOf(pps.failure);
     }

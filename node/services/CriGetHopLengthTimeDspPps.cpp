@@ -12,7 +12,7 @@ CriGetHopLengthTimeDspPps::Response criGetHopLengthTimeDspPps(const CriGetHopLen
     CriGetHopLengthTimeDspPps::Response response;
     if (const auto* const link = node::services::linkOf(command.radioChannel, response))
     {
-        const double time_ns = link->readings(command.radioChannel).hopLengthTime_ns;
+        const double time_ns = link->snapshot(command.radioChannel).readings.hopLengthTime_ns;
         response.hopLengthTime = static_cast<std::uint32_t>(std::lround(time_ns));
     }
     return response;

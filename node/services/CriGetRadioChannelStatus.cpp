@@ -15,8 +15,7 @@ CriGetRadioChannelStatus::Response criGetRadioChannelStatus(const CriGetRadioCha
     {
         return response;
     }
-    const auto xpic = link->channel(command.radioChannel).xpic;
-    const auto readings = link->readings(command.radioChannel);
+    const auto [state, readings] = link->snapshot(command.radioChannel);
     const std::string modulation = node::services::nameOf(link->hop().modulation);
     response.TXActualStatus = "On";
     response.RadioChannelStatus = "Up";
@@ -29,9 +28,9 @@ CriGetRadioChannelStatus::Response criGetRadioChannelStatus(const CriGetRadioCha
     response.TxFrequency = static_cast<std::int32_t>(link->hop().txFrequency_kHz);
     response.RxFrequency = static_cast<std::int32_t>(link->hop().rxFrequency_kHz);
     response.KelState = "Enabled";
-    response.XpicIsStarted = xpic.acquired;
+    response.XpicIsStarted = state.xpic.acquired;
     response.ActualXpi = node::services::tenths(readings.discrimination_dB);
-    response.XpicState = xpic.slaveMuted ? "Muted" : "Locked";
+    response.XpicState = node::services::stateOf(state.xpic);
     return response;
 }
 

@@ -40,7 +40,7 @@ std::uint32_t DpdController::getStartParameter()
 
 EDPDResult DpdController::getCoeffs(DpdCoeffs* coefficients)
 {
-    coefficients->bytes = m_link.channel(m_channel).dpd.coefficients;
+    coefficients->bytes = m_link.snapshot(m_channel).state.dpd.coefficients;
     return EDPDResult::Success;
 }
 

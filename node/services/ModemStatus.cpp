@@ -49,8 +49,7 @@ DspModemStatusResult ModemStatus::getDspModemStatus(RadioChannel channel, DspMod
     {
         return {PlatformRefusal, "request: found " + std::to_string(status->request) + ", expected 2"};
     }
-    const auto state = m_link.channel(channel);
-    const auto readings = m_link.readings(channel);
+    const auto [state, readings] = m_link.snapshot(channel);
     status->content = {};
     status->content[Channel] = channel;
     status->content[SymbolRate_kBd] = static_cast<std::uint32_t>(m_link.hop().symbolRate_Bd / 1e3);

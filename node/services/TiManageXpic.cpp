@@ -59,14 +59,15 @@ void carryOut(const TiManageXpic::Command& command, Channel& channel)
     }
 }
 
-void fill(TiManageXpic::Response& response, const Channel& channel, const node::radio::Readings& readings)
+void fill(TiManageXpic::Response& response, const node::radio::Snapshot& channel)
 {
-    const auto& xpic = channel.xpic;
+    const auto& xpic = channel.state.xpic;
+    const auto& readings = channel.readings;
     const bool cancelling = xpic.acquired && !xpic.slaveMuted;
     response.XpicControlBarOn = cancelling;
     response.XpicEnable = true;
     response.XpicLockStateMachine = cancelling;
-    response.XpicState = xpic.slaveMuted ? "Muted" : xpic.acquired ? "Locked" : "Unlocked";
+    response.XpicState = node::services::stateOf(xpic);
     response.XpicCableConnected = true;
     response.XpicTxEnable = true;
     response.XpicEnableExt = TiManageXpic::XpicEnableExtType::Enable_A;
@@ -88,19 +89,18 @@ TiManageXpic::Response tiManageXpic(const TiManageXpic::Command& command)
     {
         return response;
     }
-    link->change(channel,
-                 [&](Channel& state)
-                 {
-                     if (const auto reason = objection(command, state))
-                     {
-                         refuse(response, *reason);
-                     }
-                     else
-                     {
-                         carryOut(command, state);
-                     }
-                 });
-    fill(response, link->channel(channel), link->readings(channel));
+    const auto obey = [&](Channel& state)
+    {
+        if (const auto reason = objection(command, state))
+        {
+            refuse(response, *reason);
+        }
+        else
+        {
+            carryOut(command, state);
+        }
+    };
+    fill(response, link->change(channel, obey));
     return response;
 }
 

@@ -45,17 +45,17 @@ void initialiseModules()
 Node::BrokerEntries::BrokerEntries(const Configuration& configuration, radio::RadioLink& link,
                                    const std::shared_ptr<services::BoardSupport>& boardSupport)
 {
-    auto& interfaces = InterfaceBroker::getInstance().interfaces();
-    interfaces["IRlbspKelApi"] = boardSupport;
+    InterfaceBroker::Interfaces entries = {{"IRlbspKelApi", boardSupport}};
     for (RadioChannel channel = 1; channel <= radio::RadioLink::NumberOfChannels; ++channel)
     {
-        interfaces[fmt::format("IDpdControllerSplit_{}", channel)] =
+        entries[fmt::format("IDpdControllerSplit_{}", channel)] =
             std::make_shared<services::DpdController>(link, channel);
     }
     for (const std::string& name : configuration.absentInterfaces)
     {
-        interfaces.erase(name);
+        entries.erase(name);
     }
+    InterfaceBroker::getInstance().interfaces().swap(entries); // all of them or, when memory runs out before, none
 }
 
 Node::BrokerEntries::~BrokerEntries()

@@ -29,9 +29,15 @@ public:
         complete();
     }
 
+    /// Makes room for the next message: completes the one that is open, and forgets a failure of the stream.
+    void prepare()
+    {
+        complete();
+        m_stream.clear();
+    }
+
     void begin(Message message)
     {
-        m_stream.clear();
         m_open = std::move(message);
     }
 
@@ -117,8 +123,8 @@ bool VemTrace::isActive() const
 
 void VemTrace::beginLogMsg(VemTraceLevel level, const VemTraceHeader& header)
 {
-    threadMessage().complete();
-    if (level <= m_configuration->level)
+    threadMessage().prepare();
+    if (isActive() && level <= m_configuration->level)
     {
         threadMessage().begin({m_configuration->name, level, header.file == nullptr ? "" : header.file, header.line,
                                header.function == nullptr ? "" : header.function, ""});
