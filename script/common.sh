@@ -33,7 +33,8 @@ build() {
     local preset=$1
     shift
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >&2
-    if ! ninja -C "build/$preset" -n "$@" | grep -q '^ninja: no work to do'; then
-        ninja -C "build/$preset" "$@" >&2
-    fi
+    case $(ninja -C "build/$preset" -n "$@") in
+    *"no work to do"*) ;;
+    *) ninja -C "build/$preset" "$@" >&2 ;;
+    esac
 }

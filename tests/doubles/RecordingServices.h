@@ -22,7 +22,7 @@ public:
     EDPDResult start(std::uint32_t startParameter) override;
     EDPDResult stop() override;
     std::uint32_t getStartParameter() override;
-    EDPDResult getCoeffs(DpdCoeffs* coefficients) override;
+    EDPDResult getCoeffs(DpdCoeffs* target) override;
     EDPDResult setCoeffs(DpdCoeffs coefficients) override;
 
     EDPDResult result = EDPDResult::Success; ///< of every operation

@@ -9,7 +9,6 @@ namespace
 {
 
 using doubles::trace;
-using doubles::TraceMessage;
 
 /// Appends to the message that was begun last; a flush completes it.
 class MessageBuffer : public std::streambuf

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <iosfwd>
 #include <map>
 #include <string>
@@ -36,7 +37,10 @@ struct RecordingTrace
     std::string discarded;    ///< what was written to the discarding streams
     std::string outsideOfAny; ///< what was written with no message begun; stays empty
 
-    /// Forgets the messages and gives every channel back the level that it was created with.
+    std::function<void()> afterActiveTest; ///< runs last in every isActive()
+    std::function<void()> beforeBegin;     ///< runs first in every beginLogMsg()
+
+    /// Forgets messages and functions, and gives every channel back the level that it was created with.
     void reset();
 };
 
@@ -50,5 +54,11 @@ std::string placeIn(const std::string& function);
 
 /// The message of end-of-line style that `function` writes to the module's channel.
 TraceMessage lineMessage(const std::string& function, const std::string& text);
+
+/// The message of end-of-line style that names no place, on either channel.
+TraceMessage placelessMessage(const std::string& channel, const std::string& text);
+
+/// The message of message-buffer style that `function` writes when a service failed with `resultText`.
+TraceMessage bufferMessage(const std::string& function, const std::string& resultText);
 
 } // namespace doubles

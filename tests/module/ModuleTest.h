@@ -1,81 +1,32 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "KelDebugCmd.h"
-#include "doubles/CallLog.h"
-#include "doubles/RecordingFramework.h"
-#include "doubles/RecordingServices.h"
-#include "doubles/RecordingTopApi.h"
-#include "doubles/RecordingTrace.h"
+#include "module/PlatformTest.h"
 
 /// The module on a recording platform: started on a node with two channels, its start-up calls forgotten.
 /// Commands are called as the node's command line calls them, through the callback that the module installed.
-class ModuleTest : public ::testing::Test
+class ModuleTest : public PlatformTest
 {
 protected:
     ModuleTest()
     {
-        interfaces().clear();
-        interfaces()["IRlbspKelApi"] = boardSupport;
-        interfaces()["IDpdControllerSplit_1"] = dpd1;
-        interfaces()["IDpdControllerSplit_2"] = dpd2;
-        doubles::topApi() = {};
-        doubles::framework() = {};
-        doubles::trace().reset();
-        module = std::make_unique<kel::device::kelDebugCmd::KelDebugCmd>(2, nearEnd, modemStatus);
-        module->onModuleInit();
+        start(2);
         doubles::calls().clear();
     }
 
-    ~ModuleTest() override
+    /// Makes every service refuse, for that reason.
+    void failAllServices(const std::string& reason = "no answer")
     {
-        EXPECT_EQ("", doubles::trace().outsideOfAny);
-        module.reset();
-        interfaces().clear();
-    }
-
-    static InterfaceBroker::Interfaces& interfaces()
-    {
-        return InterfaceBroker::getInstance().interfaces();
-    }
-
-    IRlbspKelApi::KelDebugCmdCallback& commands()
-    {
-        return *boardSupport->installed;
-    }
-
-    static const doubles::CallLog& calls()
-    {
-        return doubles::calls();
-    }
-
-    static const std::vector<doubles::TraceMessage>& messages()
-    {
-        return doubles::trace().messages;
-    }
-
-    /// Sets the module's trace channels to level 0.
-    static void silenceTrace()
-    {
-        for (auto& [channel, level] : doubles::trace().levels)
+        auto& api = doubles::topApi();
+        const std::initializer_list<kel_top_api::BaseResponse*> responses = {
+            &api.manageXpic,          &api.calibrateDspPps,         &api.setSourceDspPps,
+            &api.setOutputModeDspPps, &api.calibrationStatusDspPps, &api.hopLengthTimeDspPps,
+            &api.radioChannelStatus,  &api.radioChannelCapability};
+        for (auto* const response : responses)
         {
-            level = 0;
+            doubles::answer(*response, 1, reason);
         }
+        dpd1->result = dpd2->result = EDPDResult::Failure;
+        modemStatus.result = {0x8000, reason};
+        nearEnd.result = {0x8000, reason};
     }
-
-    std::shared_ptr<doubles::RecordingBoardSupport> boardSupport = std::make_shared<doubles::RecordingBoardSupport>();
-    std::shared_ptr<doubles::RecordingDpdController> dpd1 =
-        std::make_shared<doubles::RecordingDpdController>("IDpdControllerSplit_1");
-    std::shared_ptr<doubles::RecordingDpdController> dpd2 =
-        std::make_shared<doubles::RecordingDpdController>("IDpdControllerSplit_2");
-    doubles::RecordingNearEnd nearEnd;
-    doubles::RecordingModemStatus modemStatus;
-    std::unique_ptr<kel::device::kelDebugCmd::KelDebugCmd> module;
-    std::string report = "what was there before";
 };

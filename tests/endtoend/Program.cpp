@@ -1,0 +1,146 @@
+#include "endtoend/Program.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <iterator>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <system_error>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+void check(bool done, const char* what)
+{
+    if (!done)
+    {
+        throw std::system_error(errno, std::generic_category(), what);
+    }
+}
+
+/// An empty file without a name.
+File temporaryFile()
+{
+    File file(std::tmpfile(), std::fclose);
+    check(file != nullptr, "tmpfile");
+    return file;
+}
+
+std::string contentOf(std::FILE* file)
+{
+    std::rewind(file);
+    std::string content;
+    std::array<char, 4096> piece{};
+    for (std::size_t length = 0; (length = std::fread(piece.data(), 1, piece.size(), file)) > 0;)
+    {
+        content.append(piece.data(), length);
+    }
+    return content;
+}
+
+/// The reading end of a pipe that holds the text and is closed behind it.
+File pipeWith(const std::string& text)
+{
+    std::array<int, 2> ends{};
+    check(pipe2(ends.data(), O_CLOEXEC) == 0, "pipe");
+    const auto written = write(ends[1], text.data(), text.size());
+    close(ends[1]);
+    check(written == static_cast<ssize_t>(text.size()), "write");
+    return {fdopen(ends[0], "r"), std::fclose};
+}
+
+std::vector<char*> pointersTo(std::vector<std::string>& texts)
+{
+    std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
+    for (std::string& text : texts)
+    {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+int statusOf(pid_t program)
+{
+    int status = 0;
+    check(waitpid(program, &status, 0) == program, "waitpid");
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+} // namespace
+
+Finished finish(const Run& run)
+{
+    const File input = pipeWith(run.input);
+    const File output = temporaryFile();
+    const File errors = temporaryFile();
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, fileno(input.get()), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, fileno(errors.get()), STDERR_FILENO);
+    if (run.outputFile == "-")
+    {
+        posix_spawn_file_actions_addclose(&actions, STDOUT_FILENO);
+    }
+    else if (!run.outputFile.empty())
+    {
+        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, run.outputFile.c_str(), O_WRONLY, 0);
+    }
+    else
+    {
+        posix_spawn_file_actions_adddup2(&actions, fileno(output.get()), STDOUT_FILENO);
+    }
+
+    std::vector<std::string> words = {KEL_NODE};
+    words.insert(words.end(), run.arguments.begin(), run.arguments.end());
+    std::vector<std::string> environment = run.environment;
+    pid_t program = 0;
+    errno = posix_spawn(&program, KEL_NODE, &actions, nullptr, pointersTo(words).data(),
+                        environment.empty() ? environ : pointersTo(environment).data());
+    posix_spawn_file_actions_destroy(&actions);
+    check(errno == 0, KEL_NODE);
+
+    Finished finished;
+    finished.status = statusOf(program);
+    finished.output = contentOf(output.get());
+    finished.errors = contentOf(errors.get());
+    return finished;
+}
+
+Finished runCommand(const std::string& line)
+{
+    std::istringstream words(line);
+    return finish({.arguments = {std::istream_iterator<std::string>(words), {}}});
+}
+
+Finished runScript(const std::string& lines)
+{
+    return finish({.arguments = {}, .input = lines});
+}
+
+std::string withoutSourceLines(const std::string& text)
+{
+    const std::string file = "private/KelDebugCmd:";
+    std::string changed;
+    std::size_t copied = 0;
+    for (auto place = text.find(file); place != std::string::npos; place = text.find(file, copied))
+    {
+        const auto number = place + file.size();
+        const auto end = std::min(text.find_first_not_of("0123456789", number), text.size());
+        changed += text.substr(copied, number - copied) + (end > number ? "LINE" : "");
+        copied = end;
+    }
+    return changed + text.substr(copied);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// How a run of the program ended, and what it wrote.
+struct Finished
+{
+    int status = -1; ///< exit status; 128 and the signal's number when a signal ended it
+    std::string output;
+    std::string errors;
+};
+
+/// A run of kel-node with these arguments.
+struct Run
+{
+    std::vector<std::string> arguments;
+    std::string input{};      ///< what it reads from a pipe; less than the pipe holds
+    std::string outputFile{}; ///< where standard output goes instead of into Finished; "-" closes it
+    std::vector<std::string> environment{};
+};
+
+/// Runs the program to its end.
+Finished finish(const Run& run);
+
+/// Runs one command, given as one line.
+Finished runCommand(const std::string& line);
+
+/// Runs the lines of a script.
+Finished runScript(const std::string& lines);
+
+/// The text with "LINE" for the number of each source line, which moves as the source grows.
+std::string withoutSourceLines(const std::string& text);

@@ -1,0 +1,80 @@
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+/// A command that the README shows at a shell's prompt, and the output that it shows below.
+struct Example
+{
+    std::string command;
+    std::string output;
+};
+
+std::vector<Example> examples()
+{
+    const std::string fence = "```";
+    std::vector<Example> found;
+    std::ifstream readme(KEL_SOURCE_DIR "/README.md");
+    bool inBlock = false;
+    bool inExample = false;
+    for (std::string line; std::getline(readme, line);)
+    {
+        if (line.starts_with(fence))
+        {
+            inBlock = !inBlock;
+            inExample = false;
+        }
+        else if (inBlock && line.starts_with("$ "))
+        {
+            inExample = true;
+            found.push_back({line.substr(2), ""});
+        }
+        else if (inExample)
+        {
+            found.back().output += line + "\n";
+        }
+    }
+    return found;
+}
+
+/// What the command writes to standard output, with the program that was just built in place of the script.
+std::string outputOf(std::string command)
+{
+    const std::string script = "script/run";
+    const auto place = command.find(script);
+    EXPECT_NE(std::string::npos, place) << command;
+    command.replace(place, script.size(), KEL_NODE);
+
+    std::string output;
+    std::FILE* const pipe = popen(command.c_str(), "r");
+    std::array<char, 4096> piece{};
+    for (std::size_t length = 0; (length = std::fread(piece.data(), 1, piece.size(), pipe)) > 0;)
+    {
+        output.append(piece.data(), length);
+    }
+    EXPECT_EQ(0, pclose(pipe)) << command;
+    return output;
+}
+
+TEST(ReadmeTest, ShowsAReportAndAScript)
+{
+    ASSERT_EQ(2U, examples().size());
+    EXPECT_EQ("script/run getCtStatus 1", examples()[0].command);
+    EXPECT_NE(std::string::npos, examples()[1].command.find("| script/run"));
+}
+
+TEST(ReadmeTest, EveryExampleShowsWhatItPrints)
+{
+    for (const Example& example : examples())
+    {
+        EXPECT_EQ(example.output, outputOf(example.command)) << example.command;
+    }
+}
+
+} // namespace
