@@ -53,7 +53,8 @@ void expectEnd(const std::vector<std::string>& words, std::size_t count)
 std::string help(const std::vector<std::string>& words)
 {
     expectEnd(words, 2);
-    return words.size() == 1 ? overview() : describe(operationOf(words[1]));
+    const bool ofAll = words.size() == 1 || words[1] == "help" || words[1] == "exit";
+    return ofAll ? overview() : describe(operationOf(words[1]));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -28,7 +29,13 @@ Status runCommands(const std::vector<std::string>& words)
         return session.carryOut(words);
     }
     const bool atTerminal = isatty(STDIN_FILENO) != 0;
-    return session.runLines(std::cin, atTerminal ? Session::Lines::AtPrompt : Session::Lines::FromScript);
+    const Status status =
+        session.runLines(std::cin, atTerminal ? Session::Lines::AtPrompt : Session::Lines::FromScript);
+    if (std::ferror(stdin) != 0)
+    {
+        throw UsageError("standard input", "it unreadable", "lines");
+    }
+    return status;
 }
 
 Status runProgram(int argc, char** argv)

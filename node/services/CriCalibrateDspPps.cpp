@@ -31,6 +31,11 @@ node::radio::PpsRequest requestOf(CriCalibrateDspPps::CalibrationMode mode)
 StandardResponse criCalibrateDspPps(const CriCalibrateDspPps::Command& command)
 {
     StandardResponse response;
+    if (command.calibrationMode > CriCalibrateDspPps::CalibrationMode::Mode3)
+    {
+        node::services::refuse(response, "calibration mode: found a number out of range, expected 0 to 3");
+        return response;
+    }
     if (auto* const link = node::services::linkOf(command.radioChannel, response))
     {
         link->change(command.radioChannel, [&](node::radio::Channel& channel)

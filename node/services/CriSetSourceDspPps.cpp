@@ -8,6 +8,11 @@ namespace kel_top_api
 StandardResponse criSetSourceDspPps(const CriSetSourceDspPps::Command& command)
 {
     StandardResponse response;
+    if (command.source > CriSetSourceDspPps::Source::Source2)
+    {
+        node::services::refuse(response, "source: found a number out of range, expected 0 to 2");
+        return response;
+    }
     if (auto* const link = node::services::linkOf(command.radioChannel, response))
     {
         link->change(command.radioChannel,

@@ -1,5 +1,6 @@
 #include "trace/VemTrace.h"
 
+#include <locale>
 #include <optional>
 #include <streambuf>
 #include <utility>
@@ -19,6 +20,7 @@ public:
     {
         // Without this the stream would swallow a bad_alloc and the message with it.
         m_stream.exceptions(std::ios::badbit);
+        m_stream.imbue(std::locale::classic());
     }
 
     ThreadMessage(const ThreadMessage&) = delete;
@@ -29,11 +31,15 @@ public:
         complete();
     }
 
-    /// Makes room for the next message: completes the one that is open, and forgets a failure of the stream.
+    /// Makes room for the next message: completes the one that is open, and makes the stream as new.
     void prepare()
     {
         complete();
         m_stream.clear();
+        m_stream.flags(std::ios::skipws | std::ios::dec);
+        m_stream.precision(6);
+        m_stream.width(0);
+        m_stream.fill(' ');
     }
 
     void begin(Message message)

@@ -88,7 +88,14 @@ Finished finish(const Run& run)
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, fileno(input.get()), STDIN_FILENO);
+    if (run.inputFile.empty())
+    {
+        posix_spawn_file_actions_adddup2(&actions, fileno(input.get()), STDIN_FILENO);
+    }
+    else
+    {
+        posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, run.inputFile.c_str(), O_RDONLY, 0);
+    }
     posix_spawn_file_actions_adddup2(&actions, fileno(errors.get()), STDERR_FILENO);
     if (run.outputFile == "-")
     {

@@ -16,6 +16,7 @@ struct Run
 {
     std::vector<std::string> arguments;
     std::string input{};      ///< what it reads from a pipe; less than the pipe holds
+    std::string inputFile{};  ///< what it reads instead, where there is one
     std::string outputFile{}; ///< where standard output goes instead of into Finished; "-" closes it
     std::vector<std::string> environment{};
 };

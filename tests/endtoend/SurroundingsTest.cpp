@@ -68,6 +68,14 @@ TEST(SurroundingsTest, OutputThatCannotBeWrittenIsAFailure)
     }
 }
 
+TEST(SurroundingsTest, InputThatCannotBeReadIsNotAnEmptyScript)
+{
+    const Finished run = finish({.arguments = {}, .inputFile = "/"});
+    EXPECT_EQ("", run.output);
+    EXPECT_EQ("kel-node: standard input: found it unreadable, expected lines\n", run.errors);
+    EXPECT_EQ(2, run.status);
+}
+
 TEST(SurroundingsTest, ACommandThatPrintsNothingNeedsNoOutput)
 {
     const Finished run = finish({.arguments = {"startDpd", "1"}, .outputFile = "/dev/full"});

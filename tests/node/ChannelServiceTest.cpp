@@ -8,7 +8,8 @@
 #include "node/ServiceTest.h"
 #include "node/services/RadioChannelNearEnd.h"
 
-using namespace kel_top_api;
+using kel_top_api::criGetRadioChannelCapability;
+using kel_top_api::criGetRadioChannelStatus;
 
 namespace
 {

@@ -11,7 +11,14 @@
 #include "kel_top_api/CriSetSourceDspPps.h"
 #include "node/ServiceTest.h"
 
-using namespace kel_top_api;
+using kel_top_api::CriCalibrateDspPps;
+using kel_top_api::criCalibrateDspPps;
+using kel_top_api::criGetCalibrationStatusDspPps;
+using kel_top_api::criGetHopLengthTimeDspPps;
+using kel_top_api::criSetOutputModeDspPps;
+using kel_top_api::CriSetSourceDspPps;
+using kel_top_api::criSetSourceDspPps;
+using kel_top_api::StandardResponse;
 using node::radio::PpsCalibration;
 using node::radio::PpsFailure;
 using Mode = CriCalibrateDspPps::CalibrationMode;
@@ -128,7 +135,7 @@ TEST_P(PpsServiceTest, SourceAndParameterAreRemembered)
 
 TEST_P(PpsServiceTest, TheOutputModeIsRemembered)
 {
-    using enum CriSetOutputModeDspPps::OutputMode;
+    using enum kel_top_api::CriSetOutputModeDspPps::OutputMode;
     for (const auto mode : {Mode1, Mode2, Mode0})
     {
         const StandardResponse response = criSetOutputModeDspPps({channel, mode});

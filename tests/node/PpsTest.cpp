@@ -4,7 +4,11 @@
 
 #include "node/radio/Pps.h"
 
-using namespace node::radio;
+using node::radio::calibrate;
+using node::radio::Pps;
+using node::radio::PpsCalibration;
+using node::radio::PpsFailure;
+using node::radio::PpsRequest;
 using enum PpsCalibration;
 using Failure = PpsFailure;
 using Request = PpsRequest;

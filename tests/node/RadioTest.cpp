@@ -10,7 +10,17 @@
 #include "node/radio/Propagation.h"
 #include "node/radio/RadioLink.h"
 
-using namespace node::radio;
+using node::radio::backOff_dB;
+using node::radio::Channel;
+using node::radio::freeSpaceLoss_dB;
+using node::radio::Hop;
+using node::radio::hopLengthTime_ns;
+using node::radio::noisePower_dBm;
+using node::radio::PpsCalibration;
+using node::radio::PpsFailure;
+using node::radio::RadioLink;
+using node::radio::Readings;
+using node::radio::snir_dB;
 using ::testing::Each;
 
 namespace

@@ -18,7 +18,18 @@
 #include "node/services/ModemStatus.h"
 #include "node/services/RadioChannelNearEnd.h"
 
-using namespace kel_top_api;
+using kel_top_api::BaseResponse;
+using kel_top_api::criCalibrateDspPps;
+using kel_top_api::criGetCalibrationStatusDspPps;
+using kel_top_api::criGetHopLengthTimeDspPps;
+using kel_top_api::CriGetRadioChannelCapability;
+using kel_top_api::criGetRadioChannelCapability;
+using kel_top_api::CriGetRadioChannelStatus;
+using kel_top_api::criGetRadioChannelStatus;
+using kel_top_api::criSetOutputModeDspPps;
+using kel_top_api::criSetSourceDspPps;
+using kel_top_api::TiManageXpic;
+using kel_top_api::tiManageXpic;
 using node::radio::RadioLink;
 using node::services::TopApiBinding;
 
@@ -147,6 +158,25 @@ TEST(RefusalTest, TheNearEndRefusesAChannelThatTheLinkDoesNotHave)
         EXPECT_EQ(0, info.radioChannelId);
         EXPECT_EQ("", info.maxModulationAndCode);
     }
+}
+
+TEST(RefusalTest, ThePpsServicesRefuseNumbersOutsideTheirEnumerations)
+{
+    using kel_top_api::CriCalibrateDspPps;
+    using kel_top_api::CriSetOutputModeDspPps;
+    using kel_top_api::CriSetSourceDspPps;
+    RadioLink link;
+    const TopApiBinding binding(link);
+    expectRefused("calibration mode: found a number out of range, expected 0 to 3",
+                  criCalibrateDspPps({1, static_cast<CriCalibrateDspPps::CalibrationMode>(4), 0}));
+    expectRefused("output mode: found a number out of range, expected 0 to 2",
+                  criSetOutputModeDspPps({1, static_cast<CriSetOutputModeDspPps::OutputMode>(3)}));
+    expectRefused("source: found a number out of range, expected 0 to 2",
+                  criSetSourceDspPps({1, static_cast<CriSetSourceDspPps::Source>(3), 7}));
+    const auto pps = link.snapshot(1).state.pps;
+    EXPECT_EQ(node::radio::PpsCalibration::Never, pps.calibration);
+    EXPECT_EQ(0U, pps.outputMode);
+    EXPECT_EQ(0, pps.sourceParameter);
 }
 
 } // namespace

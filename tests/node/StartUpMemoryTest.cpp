@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "allocation/MemoryRounds.h"
 #include "framework/CModuleManager.h"
 #include "framework/InterfaceBroker.h"
-#include "node/MemoryRounds.h"
 #include "node/startup/Node.h"
 
 using allocation::Failing;

@@ -7,16 +7,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "module/memory/FailingAllocation.h"
-#include "node/MemoryRounds.h"
+#include "allocation/FailingAllocation.h"
+#include "allocation/MemoryRounds.h"
 #include "node/TraceRecorder.h"
 #include "node/trace/TraceLibrary.h"
 #include "trace/VemTrace.h"
 
 using allocation::Failing;
-using ::testing::AnyOf;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 namespace

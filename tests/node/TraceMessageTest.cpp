@@ -1,3 +1,4 @@
+#include <iomanip>
 #include <string>
 #include <thread>
 
@@ -210,6 +211,16 @@ TEST_F(TraceMessageTest, EveryByteReachesTheMessage)
     EXPECT_TRUE(fan.messageStream().good());
     fan.messageStream() << bytes << std::flush;
     EXPECT_THAT(recorder.texts(), ElementsAre(bytes + bytes));
+}
+
+TEST_F(TraceMessageTest, AFormatThatOneMessageSetsIsGoneInTheNext)
+{
+    fan.beginLogMsg(1, {});
+    fan.messageStream() << std::hex << std::showbase << std::setfill('*') << std::setprecision(2) << 255 << std::setw(9)
+                        << std::flush;
+    fan.beginLogMsg(1, {});
+    fan.messageStream() << 255 << ' ' << std::setw(4) << 1 << ' ' << 1.2345 << std::flush;
+    EXPECT_THAT(recorder.texts(), ElementsAre("0xff", "255    1 1.2345"));
 }
 
 } // namespace

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <new>
-
+#include "allocation/MemoryRounds.h"
 #include "module/CtStatusTest.h"
-#include "module/memory/FailingAllocation.h"
 
 /// The module on a node that runs out of memory.
-class MemoryTest : public CtStatusTest
+class MemoryTest : public MemoryRounds<CtStatusTest>
 {
 protected:
     MemoryTest()
@@ -19,14 +17,6 @@ protected:
         doubles::topApi().manageXpic.TxMessage = "a message to the other side";
     }
 
-    void SetUp() override
-    {
-        if (!allocation::areOperatorsOurs())
-        {
-            GTEST_SKIP() << "a tool replaces operator new";
-        }
-    }
-
     /// Gives back what the recording doubles keep, so that every round allocates alike.
     static void forgetRound()
     {
@@ -35,40 +25,10 @@ protected:
         doubles::trace().discarded = std::string();
     }
 
-    /// Runs `act` with its first allocation failing, then with its second, and so on until it gets through. Each
-    /// failure must arrive as std::bad_alloc; `afterFailure` then looks at what `act` left. Answers how many there
-    /// were. The last round, which gets through, leaves its traces in the doubles.
+    /// As the base's. The last round, which gets through, leaves its traces in the doubles.
     template <typename Act, typename AfterFailure>
-    static std::size_t failEachAllocation(allocation::Failing failing, Act act, AfterFailure afterFailure)
+    static std::size_t failEachAllocation(allocation::Failing failing, const Act& act, const AfterFailure& afterFailure)
     {
-        for (std::size_t index = 0;; ++index)
-        {
-            forgetRound();
-            bool thrown = false;
-            bool struck = false;
-            {
-                const allocation::Failure failure(index, failing);
-                try
-                {
-                    act();
-                }
-                catch (const std::bad_alloc&)
-                {
-                    thrown = true;
-                }
-                struck = failure.struck();
-            }
-            EXPECT_EQ(struck, thrown) << "with allocation " << index << " failing";
-            if (!struck)
-            {
-                return index;
-            }
-            afterFailure();
-            if (HasFailure())
-            {
-                ADD_FAILURE() << "with allocation " << index << " failing";
-                return index;
-            }
-        }
+        return MemoryRounds::failEachAllocation(failing, act, afterFailure, forgetRound);
     }
 };

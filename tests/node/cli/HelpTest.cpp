@@ -8,7 +8,11 @@
 #include "node/cli/Help.h"
 #include "node/cli/Operation.h"
 
-using namespace node::cli;
+using node::cli::describe;
+using node::cli::findOperation;
+using node::cli::Operation;
+using node::cli::operations;
+using node::cli::overview;
 
 namespace
 {

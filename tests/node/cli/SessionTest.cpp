@@ -70,6 +70,13 @@ TEST_F(SessionTest, HelpPrintsTheOverview)
     EXPECT_EQ(node::cli::overview(), output.str());
 }
 
+TEST_F(SessionTest, HelpOfItsOwnWordsPrintsTheOverviewThatTellsThem)
+{
+    EXPECT_EQ(Status::Done, session.carryOut({"help", "help"}));
+    EXPECT_EQ(Status::Done, session.carryOut({"help", "exit"}));
+    EXPECT_EQ(node::cli::overview() + node::cli::overview(), output.str());
+}
+
 TEST_F(SessionTest, HelpOfACommandDescribesIt)
 {
     EXPECT_EQ(Status::Done, session.carryOut({"help", "setPpsSource"}));

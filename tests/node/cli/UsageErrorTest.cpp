@@ -137,11 +137,11 @@ TEST_P(UsageErrorTest, EveryUnfitArgumentIsNamedAndQuoted)
 TEST_P(UsageErrorTest, TheFirstSurplusArgumentIsQuoted)
 {
     auto words = fitting(GetParam().arguments.size());
-    words.push_back("surplus");
+    words.emplace_back("surplus");
     const std::string complaint = GetParam().name + ": argument " + std::to_string(words.size() - 1) +
                                   ": found \"surplus\", expected nothing more";
     expectComplaint(complaint, words);
-    words.push_back("more");
+    words.emplace_back("more");
     expectComplaint(complaint, words);
 }
 
@@ -154,10 +154,10 @@ class CommandErrorTest : public UsageErrorTest
 
 TEST_F(CommandErrorTest, AnUnknownCommandIsQuoted)
 {
-    expectComplaint("command: found \"getCTStatus\", expected one that \"help\" lists", {"getCTStatus", "1"});
-    expectComplaint("command: found \"\", expected one that \"help\" lists", {""});
-    expectComplaint("command: found \"getCtStatus 1\", expected one that \"help\" lists", {"getCtStatus 1"});
-    expectComplaint("command: found \"--help\", expected one that \"help\" lists", {"--help"});
+    expectComplaint(R"(command: found "getCTStatus", expected one that "help" lists)", {"getCTStatus", "1"});
+    expectComplaint(R"(command: found "", expected one that "help" lists)", {""});
+    expectComplaint(R"(command: found "getCtStatus 1", expected one that "help" lists)", {"getCtStatus 1"});
+    expectComplaint(R"(command: found "--help", expected one that "help" lists)", {"--help"});
 }
 
 TEST_F(CommandErrorTest, TheFirstOfSeveralErrorsIsTold)
@@ -180,7 +180,7 @@ TEST_F(CommandErrorTest, WhatCannotBeSeenIsQuotedVisibly)
 
 TEST_F(CommandErrorTest, HelpOfAnUnknownCommandIsAnError)
 {
-    expectComplaint("command: found \"getCTStatus\", expected one that \"help\" lists", {"help", "getCTStatus"});
+    expectComplaint(R"(command: found "getCTStatus", expected one that "help" lists)", {"help", "getCTStatus"});
 }
 
 TEST_F(CommandErrorTest, HelpTakesOneCommand)

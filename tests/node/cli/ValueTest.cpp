@@ -9,7 +9,12 @@
 
 #include "node/cli/Value.h"
 
-using namespace node::cli;
+using node::cli::coefficientsForm;
+using node::cli::numberRange;
+using node::cli::parseChannel;
+using node::cli::parseCoefficients;
+using node::cli::parseNumberOf;
+using node::cli::printCoefficients;
 
 namespace
 {

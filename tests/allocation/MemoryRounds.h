@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "module/memory/FailingAllocation.h"
+#include "allocation/FailingAllocation.h"
 
 /// A test in a program that runs out of memory.
 template <typename Test>
@@ -21,15 +21,16 @@ protected:
     }
 
     /// Runs `act` with its first allocation failing, then with its second, and so on until it gets through. Each
-    /// failure must arrive as std::bad_alloc; `afterFailure` then looks at what `act` left.
+    /// failure must arrive as std::bad_alloc; `afterFailure` then looks at what `act` left. `prepare` runs before each.
     /// @return how many failures there were
     template <typename Act, typename AfterFailure>
-    static std::size_t failEachAllocation(allocation::Failing failing, const Act& act, const AfterFailure& afterFailure)
+    static std::size_t failEachAllocation(
+        allocation::Failing failing, const Act& act, const AfterFailure& afterFailure, void (*prepare)() = [] {})
     {
         constexpr std::size_t Enough = 10'000;
         for (std::size_t index = 0; index < Enough; ++index)
         {
-            SCOPED_TRACE(index);
+            prepare();
             if (getsThrough(index, failing, act))
             {
                 return index;
@@ -37,6 +38,7 @@ protected:
             afterFailure();
             if (Test::HasFailure())
             {
+                ADD_FAILURE() << "with allocation " << index << " failing";
                 return index;
             }
         }
@@ -58,7 +60,7 @@ private:
         {
             thrown = true;
         }
-        EXPECT_EQ(failure.struck(), thrown);
+        EXPECT_EQ(failure.struck(), thrown) << "with allocation " << index << " failing";
         return !failure.struck();
     }
 };

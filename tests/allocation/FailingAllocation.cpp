@@ -1,4 +1,4 @@
-#include "module/memory/FailingAllocation.h"
+#include "allocation/FailingAllocation.h"
 
 #include <cstdlib>
 #include <new>
