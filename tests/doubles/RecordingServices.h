@@ -55,7 +55,8 @@ public:
 class RecordingNearEnd : public ITiManageRadioChannelNearEnd
 {
 public:
-    RadioChannelInfoResult getRadioChannelInfo(const RadioChannelInfoRequest& request, RadioChannelInfo* info) override;
+    RadioChannelInfoResult getRadioChannelInfo(const RadioChannelInfoRequest& request,
+                                               RadioChannelInfo* target) override;
 
     RadioChannelInfoResult result;
     RadioChannelInfo info; ///< what the query writes into the caller's record
