@@ -47,7 +47,6 @@ Snapshot RadioLink::change(std::uint32_t channel, const std::function<void(Chann
 Readings RadioLink::measure(std::uint32_t channel, const Channel& state) const
 {
     const double frequency_GHz = m_hop.txFrequency_kHz / 1e6;
-    const bool cancelling = state.xpic.acquired && !state.xpic.slaveMuted;
 
     Readings readings;
     readings.txPower_dBm = m_hop.peakPower_dBm - backOff_dB(m_hop.modulation);
@@ -55,7 +54,7 @@ Readings RadioLink::measure(std::uint32_t channel, const Channel& state) const
                          freeSpaceLoss_dB(frequency_GHz, m_hop.distance_km) - m_hop.gasLoss_dB;
     readings.discrimination_dB = m_hop.crossPolarDiscrimination_dB;
     readings.snir_dB = snir_dB(readings.level_dBm - noisePower_dBm(m_hop.symbolRate_Bd, m_hop.noiseFigure_dB),
-                               readings.discrimination_dB + (cancelling ? XpicImprovement_dB : 0.0),
+                               readings.discrimination_dB + (state.xpic.cancels() ? XpicImprovement_dB : 0.0),
                                state.dpd.running ? FloorWithDpd_dB : FloorWithoutDpd_dB);
     // Each channel sees the other one's reference: what is above for the one is below for the other.
     readings.slaveCarrierOffset_Hz = (channel == 1 ? 1 : -1) * ReferenceDifference_ppm * frequency_GHz * 1e3;

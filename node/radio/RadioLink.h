@@ -30,6 +30,12 @@ struct Hop
 /// Cross-polarisation interference canceller (XPIC) of one channel.
 struct Xpic
 {
+    /// Whether it takes the other polarisation out of the signal at present.
+    bool cancels() const
+    {
+        return acquired && !slaveMuted;
+    }
+
     bool acquired = true;
     bool slaveMuted = false;
     std::uint32_t preamble = 0;
@@ -75,6 +81,11 @@ class RadioLink
 {
 public:
     static constexpr std::uint32_t NumberOfChannels = 2;
+
+    static constexpr bool hasChannel(std::uint32_t channel)
+    {
+        return channel >= 1 && channel <= NumberOfChannels;
+    }
 
     explicit RadioLink(const Hop& hop = {});
 

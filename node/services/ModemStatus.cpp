@@ -41,7 +41,7 @@ ModemStatus::ModemStatus(const radio::RadioLink& link) : m_link(link)
 
 DspModemStatusResult ModemStatus::getDspModemStatus(RadioChannel channel, DspModemStatus* status)
 {
-    if (channel < 1 || channel > radio::RadioLink::NumberOfChannels)
+    if (!radio::RadioLink::hasChannel(channel))
     {
         return {PlatformRefusal, unknownChannel(channel)};
     }

@@ -15,7 +15,7 @@ RadioChannelNearEnd::RadioChannelNearEnd(const radio::RadioLink& link) : m_link(
 RadioChannelInfoResult RadioChannelNearEnd::getRadioChannelInfo(const RadioChannelInfoRequest& request,
                                                                 RadioChannelInfo* info)
 {
-    if (request.radioChannel < 1 || request.radioChannel > radio::RadioLink::NumberOfChannels)
+    if (!radio::RadioLink::hasChannel(request.radioChannel))
     {
         return {PlatformRefusal, unknownChannel(request.radioChannel)};
     }

@@ -63,10 +63,9 @@ void fill(TiManageXpic::Response& response, const node::radio::Snapshot& channel
 {
     const auto& xpic = channel.state.xpic;
     const auto& readings = channel.readings;
-    const bool cancelling = xpic.acquired && !xpic.slaveMuted;
-    response.XpicControlBarOn = cancelling;
+    response.XpicControlBarOn = xpic.cancels();
     response.XpicEnable = true;
-    response.XpicLockStateMachine = cancelling;
+    response.XpicLockStateMachine = xpic.cancels();
     response.XpicState = node::services::stateOf(xpic);
     response.XpicCableConnected = true;
     response.XpicTxEnable = true;

@@ -38,7 +38,7 @@ radio::RadioLink* linkOf(RadioChannel channel, kel_top_api::BaseResponse& respon
         refuse(response, "the node is not started");
         return nullptr;
     }
-    if (channel < 1 || channel > radio::RadioLink::NumberOfChannels)
+    if (!radio::RadioLink::hasChannel(channel))
     {
         refuse(response, unknownChannel(channel));
         return nullptr;
