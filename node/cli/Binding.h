@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <limits>
 #include <optional>
@@ -10,12 +11,12 @@
 
 #include <fmt/format.h>
 
-#include "node/cli/Operation.h"
-#include "node/cli/UsageError.h"
+#include "node/cli/Command.h"
 #include "node/cli/Value.h"
+#include "node/wording/InputError.h"
 
-/// makeOperation() makes an Operation of a member of the callback interface: the member's parameters say which words it
-/// takes, which values fit, and what it prints.
+/// Makes commands of functions: a function's parameters say which words it takes, which values fit, and what is
+/// printed.
 namespace node::cli
 {
 
@@ -23,55 +24,85 @@ namespace node::cli
 class Words
 {
 public:
-    Words(const Operation& operation, const std::vector<std::string>& words) : m_operation(operation), m_words(words)
+    Words(const Command& command, const std::vector<std::string>& words) : m_command(command), m_words(words)
     {
     }
 
+    bool atEnd() const
+    {
+        return m_next == m_words.size();
+    }
+
     /// Parses the next word.
-    /// @throws UsageError when there is none, or it does not fit
+    /// @throws InputError when there is none, or it does not fit
     template <typename Parse>
     auto take(const Parse& parse)
     {
-        const Argument& argument = m_operation.arguments.at(m_next);
-        const std::string place = fmt::format("{}: argument {} ({})", m_operation.name, m_next + 1, argument.name);
-        if (m_next == m_words.size())
+        const Argument& argument = m_command.arguments.at(m_next);
+        const std::string place = fmt::format("{}: argument {} ({})", m_command.name, m_next + 1, argument.name);
+        if (atEnd())
         {
-            throw UsageError(place, "nothing", argument.form);
+            throw wording::InputError(place, "nothing", argument.form);
         }
         const std::string& word = m_words[m_next++];
         const auto value = parse(word);
         if (!value)
         {
-            throw UsageError(place, quoted(word), argument.form);
+            throw wording::InputError(place, wording::quoted(word), argument.form);
         }
         return *value;
     }
 
-    /// @throws UsageError when words are left over
+    /// All words that are left.
+    /// @throws InputError when there are none
+    std::vector<std::string> takeRest()
+    {
+        std::vector<std::string> rest = {take([](const std::string& word) { return std::optional(word); })};
+        rest.insert(rest.end(), m_words.begin() + static_cast<std::ptrdiff_t>(m_next), m_words.end());
+        m_next = m_words.size();
+        return rest;
+    }
+
+    /// @throws InputError when words are left over
     void end() const
     {
-        if (m_next < m_words.size())
+        if (!atEnd())
         {
-            throw UsageError(fmt::format("{}: argument {}", m_operation.name, m_next + 1), quoted(m_words[m_next]),
-                             "nothing more");
+            throw wording::InputError(fmt::format("{}: argument {}", m_command.name, m_next + 1),
+                                      wording::quoted(m_words[m_next]), "nothing more");
         }
     }
 
 private:
-    const Operation& m_operation;
+    const Command& m_command;
     const std::vector<std::string>& m_words;
     std::size_t m_next = 0;
 };
 
-/// What a parameter of the interface is to the command line: an argument to read, or a place for something to print.
+/// A value that knows which words it accepts.
+template <typename Value>
+concept TypedValue = requires(const std::string& word)
+{
+    {
+        Value::form()
+        } -> std::same_as<std::string>;
+    {
+        Value::parse(word)
+        } -> std::same_as<std::optional<Value>>;
+};
+
+/// What a parameter is to the command line: an argument to read, or a place for something to print.
 template <typename Parameter>
 struct Slot;
 
-/// An argument: a word, read before the call.
+/// An argument: read before the call.
 template <typename Value>
 struct ArgumentSlot
 {
-    Value pass() const
+    static constexpr bool IsArgument = true;
+    static constexpr bool IsOptional = false;
+
+    const Value& pass() const
     {
         return value;
     }
@@ -84,14 +115,10 @@ struct ArgumentSlot
     Value value{};
 };
 
-/// A place that the command fills.
+/// A place that the command fills: no word is typed for it.
 struct FilledSlot
 {
-    /// No word is typed for it.
-    static std::optional<std::string> form()
-    {
-        return std::nullopt;
-    }
+    static constexpr bool IsArgument = false;
 
     void read(Words& /*words*/)
     {
@@ -99,13 +126,13 @@ struct FilledSlot
 };
 
 /// Every number that its type holds may be sent: the module and the services judge it, not the command line.
-template <typename Parameter>
-requires std::is_integral_v<Parameter>
+template <std::integral Parameter>
 struct Slot<Parameter> : ArgumentSlot<Parameter>
 {
-    static std::optional<std::string> form()
+    static std::string form()
     {
-        return numberRange(std::numeric_limits<Parameter>::min(), std::numeric_limits<Parameter>::max());
+        using Limits = std::numeric_limits<Parameter>;
+        return wording::wholeRange(Limits::min(), Limits::max());
     }
 
     void read(Words& words)
@@ -114,10 +141,57 @@ struct Slot<Parameter> : ArgumentSlot<Parameter>
     }
 };
 
+template <TypedValue Parameter>
+struct Slot<Parameter> : ArgumentSlot<Parameter>
+{
+    static std::string form()
+    {
+        return Parameter::form();
+    }
+
+    void read(Words& words)
+    {
+        this->value = words.take(Parameter::parse);
+    }
+};
+
+template <TypedValue Value>
+struct Slot<std::optional<Value>> : ArgumentSlot<std::optional<Value>>
+{
+    static constexpr bool IsOptional = true;
+
+    static std::string form()
+    {
+        return Value::form();
+    }
+
+    void read(Words& words)
+    {
+        if (!words.atEnd())
+        {
+            this->value = words.take(Value::parse);
+        }
+    }
+};
+
+template <>
+struct Slot<FaultWords> : ArgumentSlot<FaultWords>
+{
+    static std::string form()
+    {
+        return FaultWords::form();
+    }
+
+    void read(Words& words)
+    {
+        value.words = words.takeRest();
+    }
+};
+
 template <>
 struct Slot<DpdCoeffs> : ArgumentSlot<DpdCoeffs>
 {
-    static std::optional<std::string> form()
+    static std::string form()
     {
         return coefficientsForm();
     }
@@ -182,51 +256,65 @@ struct ArgumentText
 {
     std::string name;
     std::string meaning;
+    std::string more{}; ///< as in Argument
 };
 
-/// The arguments that the parameters take, after the channel.
-/// @param texts  as many as there are arguments to read
-template <typename... Parameters>
-std::vector<Argument> argumentsOf(const std::vector<ArgumentText>& texts)
+template <typename Parameter>
+void addArgument(std::vector<Argument>& arguments, const std::vector<ArgumentText>& texts)
 {
-    std::vector<Argument> arguments = {{"channel", numberRange(FirstChannel, LastChannel), "radio channel"}};
-    const std::vector<std::optional<std::string>> forms = {Slot<Parameters>::form()...};
-    for (const auto& form : forms)
+    if constexpr (Slot<Parameter>::IsArgument)
     {
-        if (form)
-        {
-            const ArgumentText& text = texts.at(arguments.size() - 1);
-            arguments.push_back({text.name, *form, text.meaning});
-        }
+        const ArgumentText& text = texts.at(arguments.size());
+        arguments.push_back({text.name, Slot<Parameter>::form(), text.meaning, Slot<Parameter>::IsOptional, text.more});
     }
-    return arguments;
 }
 
-/// The operation that calls `member`.
-template <typename... Parameters>
-Operation makeOperation(const std::string& name,
-                        int (IRlbspKelApi::KelDebugCmdCallback::*member)(RadioChannel, Parameters...),
-                        const std::string& summary, const std::vector<ArgumentText>& texts = {})
+/// The command whose words are read into a slot for each parameter.
+/// @param texts   as many as there are arguments to read
+/// @param invoke  called with the desk and the slots; answers the outcome
+template <typename... Parameters, typename Invoke>
+Command makeCommand(const std::string& name, const std::string& summary, const std::vector<ArgumentText>& texts,
+                    const Invoke& invoke)
 {
-    const Operation described{name, summary, argumentsOf<Parameters...>(texts), nullptr};
-    Operation operation = described;
-    operation.call =
-        [member, described](IRlbspKelApi::KelDebugCmdCallback& commands, const std::vector<std::string>& typed)
+    Command described{name, summary, {}, "", nullptr};
+    (addArgument<Parameters>(described.arguments, texts), ...);
+    Command command = described;
+    command.call = [invoke, described](Desk& desk, const std::vector<std::string>& typed)
     {
         Words words(described, typed);
-        const RadioChannel channel = words.take(parseChannel);
         std::tuple<Slot<Parameters>...> slots;
         std::apply([&](auto&... slot) { (slot.read(words), ...); }, slots);
         words.end();
-        return std::apply(
-            [&](auto&... slot)
-            {
-                const int result = (commands.*member)(channel, slot.pass()...);
-                return Outcome{result, (std::string() + ... + slot.print(result))};
-            },
-            slots);
+        return std::apply([&](auto&... slot) { return invoke(desk, slot...); }, slots);
     };
-    return operation;
+    return command;
+}
+
+/// The command that calls `member` of the module.
+template <typename... Parameters>
+Command makeCommand(const std::string& name,
+                    int (IRlbspKelApi::KelDebugCmdCallback::*member)(RadioChannel, Parameters...),
+                    const std::string& summary, const std::vector<ArgumentText>& texts = {})
+{
+    std::vector<ArgumentText> all = {{"channel", "radio channel"}};
+    all.insert(all.end(), texts.begin(), texts.end());
+    const auto invoke = [member](Desk& desk, Slot<ChannelNumber>& channel, Slot<Parameters>&... slot)
+    {
+        const int result = (desk.commands().*member)(channel.value.number, slot.pass()...);
+        return Outcome{result, (std::string() + ... + slot.print(result))};
+    };
+    return makeCommand<ChannelNumber, Parameters...>(name, summary, all, invoke);
+}
+
+/// The command that calls `function`, which answers what to print.
+template <typename... Parameters>
+Command makeCommand(const std::string& name, std::string (*function)(Desk&, Parameters...), const std::string& summary,
+                    const std::vector<ArgumentText>& texts = {})
+{
+    const auto invoke = [function](Desk& desk, Slot<std::remove_cvref_t<Parameters>>&... slot) {
+        return Outcome{0, function(desk, slot.pass()...)};
+    };
+    return makeCommand<std::remove_cvref_t<Parameters>...>(name, summary, texts, invoke);
 }
 
 } // namespace node::cli

@@ -2,15 +2,19 @@
 
 #include <string>
 
-#include "node/cli/Operation.h"
+#include "node/cli/Command.h"
 
 namespace node::cli
 {
 
-/// How the program is called, and every operation with its arguments, a line each.
+/// How the program is called, and every command, a line each.
 std::string overview();
 
-/// One operation: its summary and each of its arguments with form and meaning.
-std::string describe(const Operation& operation);
+/// One command: its summary and each of its arguments with form and meaning.
+std::string describe(const Command& command);
+
+/// What "help TOPIC" prints.
+/// @throws InputError for what is neither a command nor another topic
+std::string helpOn(const std::string& topic);
 
 } // namespace node::cli

@@ -2,16 +2,16 @@
 
 #include <exception>
 #include <istream>
-#include <iterator>
 #include <ostream>
-#include <sstream>
+#include <utility>
 
 #include <fmt/format.h>
 
+#include "node/cli/Command.h"
 #include "node/cli/Help.h"
-#include "node/cli/Operation.h"
-#include "node/cli/UsageError.h"
+#include "node/cli/Line.h"
 #include "node/trace/TraceLibrary.h"
+#include "node/wording/InputError.h"
 
 namespace node::cli
 {
@@ -19,94 +19,94 @@ namespace node::cli
 namespace
 {
 
-/// The words of a line; none when it is empty or a comment.
-std::vector<std::string> split(const std::string& line)
-{
-    std::istringstream stream(line);
-    std::vector<std::string> words{std::istream_iterator<std::string>(stream), {}};
-    if (!words.empty() && words.front().starts_with('#'))
-    {
-        words.clear();
-    }
-    return words;
-}
-
-const Operation& operationOf(const std::string& name)
-{
-    const Operation* const operation = findOperation(name);
-    if (operation == nullptr)
-    {
-        throw UsageError("command", quoted(name), "one that \"help\" lists");
-    }
-    return *operation;
-}
-
-/// @throws UsageError when there are more words than `count`
+/// @throws InputError when there are more words than `count`
 void expectEnd(const std::vector<std::string>& words, std::size_t count)
 {
     if (words.size() > count)
     {
-        throw UsageError(fmt::format("{}: argument {}", words.front(), count), quoted(words[count]), "nothing more");
+        throw wording::InputError(fmt::format("{}: argument {}", words.front(), count), wording::quoted(words[count]),
+                                  "nothing more");
     }
-}
-
-std::string help(const std::vector<std::string>& words)
-{
-    expectEnd(words, 2);
-    const bool ofAll = words.size() == 1 || words[1] == "help" || words[1] == "exit";
-    return ofAll ? overview() : describe(operationOf(words[1]));
 }
 
 } // namespace
 
-Session::Session(IRlbspKelApi::KelDebugCmdCallback& commands, std::ostream& output, std::ostream& errors)
-    : m_commands(commands), m_output(output), m_errors(errors)
+Session::Session(Desk& desk, std::ostream& output, std::ostream& errors, Clock clock)
+    : m_desk(desk), m_output(output), m_errors(errors), m_clock(std::move(clock)),
+      m_lastTime(m_clock ? m_clock() : radio::Ticks(0))
 {
 }
 
 Status Session::carryOut(const std::vector<std::string>& words, const std::string& place)
 {
+    return guard(place, [&] { return call(words, place); });
+}
+
+Status Session::guard(const std::string& place, const std::function<Status()>& step)
+{
     try
     {
-        return call(words, place);
+        return step();
     }
-    catch (const UsageError& error)
+    catch (const wording::InputError& error)
     {
         m_errors << "kel-node: " << place << error.what() << std::endl;
         return Status::NotUnderstood;
     }
+    catch (const startup::StartUpError& error)
+    {
+        m_errors << "kel-node: " << place << error.what() << std::endl;
+        return Status::NotStarted;
+    }
     catch (const std::exception& error)
     {
         trace::completeOpenMessage();
-        m_errors << "kel-node: " << place << words.front() << ": threw " << error.what() << std::endl;
+        m_errors << "kel-node: " << place << m_command << ": threw " << error.what() << std::endl;
         return Status::CommandFailed;
     }
 }
 
 Status Session::call(const std::vector<std::string>& words, const std::string& place)
 {
-    if (words.front() == "exit")
+    m_command = words.front();
+    if (m_command == "exit")
     {
         expectEnd(words, 1);
         m_left = true;
         return Status::Done;
     }
-    if (words.front() == "help")
+    if (m_command == "help")
     {
-        print(help(words));
+        expectEnd(words, 2);
+        print(words.size() == 1 ? overview() : helpOn(words[1]));
         return Status::Done;
     }
-    const Operation& operation = operationOf(words.front());
-    const Outcome outcome = operation.call(m_commands, {words.begin() + 1, words.end()});
+    const Command& command = commandNamed(m_command);
+    keepTime();
+    const Outcome outcome = command.call(m_desk, {words.begin() + 1, words.end()});
     // A message that the command left open belongs before whatever comes next.
     trace::completeOpenMessage();
     print(outcome.output);
     if (outcome.result != 0)
     {
-        m_errors << "kel-node: " << place << operation.name << ": failed" << std::endl;
+        m_errors << "kel-node: " << place << command.name << ": failed" << std::endl;
         return Status::CommandFailed;
     }
     return Status::Done;
+}
+
+void Session::keepTime()
+{
+    if (!m_clock)
+    {
+        return;
+    }
+    const radio::Ticks now = m_clock();
+    const radio::Ticks gone = now - std::exchange(m_lastTime, now);
+    if (m_desk.hasNode())
+    {
+        m_desk.link().advance(gone);
+    }
 }
 
 void Session::print(const std::string& text)
@@ -120,17 +120,18 @@ Status Session::runLines(std::istream& input, Lines kind)
     const bool atPrompt = kind == Lines::AtPrompt;
     if (atPrompt)
     {
-        print("A simulated node with two radio channels. \"help\" lists the commands, \"exit\" leaves.\n");
+        print("A simulated node. \"help\" lists the commands, \"exit\" leaves.\n");
     }
     std::string line;
     for (int number = 1; !m_left && prompt(atPrompt) && std::getline(input, line); ++number)
     {
-        const auto words = split(line);
-        if (words.empty())
+        const std::string place = atPrompt ? "" : fmt::format("line {}: ", number);
+        const auto step = [&]
         {
-            continue;
-        }
-        const Status status = carryOut(words, atPrompt ? "" : fmt::format("line {}: ", number));
+            const auto words = splitLine(line);
+            return words.empty() ? Status::Done : call(words, place);
+        };
+        const Status status = guard(place, step);
         if (status != Status::Done && !atPrompt)
         {
             return status;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
 
-#include "radio/IRlbspKelApi.h"
+#include "node/cli/Desk.h"
+#include "node/radio/Time.h"
 
 namespace node::cli
 {
@@ -18,12 +20,16 @@ enum class Status : int
     NotStarted = 3,
 };
 
-/// Carries out commands: their reports go to one stream as the module wrote them, what went wrong to the other.
+/// Carries out commands: what they print goes to one stream, what went wrong to the other.
 class Session
 {
 public:
-    /// @param commands  borrowed, as the streams are; outlives the session
-    Session(IRlbspKelApi::KelDebugCmdCallback& commands, std::ostream& output, std::ostream& errors);
+    /// A clock that moves by itself. Reads the time since any moment.
+    using Clock = std::function<radio::Ticks()>;
+
+    /// @param desk   borrowed, as the streams are; outlives the session
+    /// @param clock  lets the link's time go on before each command; without one, time moves when it is told to
+    Session(Desk& desk, std::ostream& output, std::ostream& errors, Clock clock = nullptr);
 
     /// Carries out one command.
     /// @param words  the command's name and its arguments
@@ -41,15 +47,21 @@ public:
     Status runLines(std::istream& input, Lines kind);
 
 private:
+    /// Carries out `step`; words what it throws.
+    Status guard(const std::string& place, const std::function<Status()>& step);
     Status call(const std::vector<std::string>& words, const std::string& place);
+    void keepTime();
     void print(const std::string& text);
     bool prompt(bool atPrompt);
 
-    IRlbspKelApi::KelDebugCmdCallback& m_commands;
+    Desk& m_desk;
     std::ostream& m_output;
     std::ostream& m_errors;
-    bool m_left = false;       ///< "exit" was said
-    bool m_lineIsOpen = false; ///< what was printed last did not end its line
+    Clock m_clock;
+    std::string m_command;      ///< that was called last
+    radio::Ticks m_lastTime{0}; ///< of the clock
+    bool m_left = false;        ///< "exit" was said
+    bool m_lineIsOpen = false;  ///< what was printed last did not end its line
 };
 
 } // namespace node::cli

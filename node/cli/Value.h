@@ -4,19 +4,19 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "node/radio/Range.h"
+#include "node/radio/Time.h"
 #include "radio/IDpdControllerSplit.h"
 #include "radio/RadioChannel.h"
 
-/// Typed words become values here, or none where they do not fit; and what would fit is worded.
+/// What a typed word can be. Each type says which words it accepts and reads one, or none where it does not fit.
 namespace node::cli
 {
 
 /// A whole number in decimal or, with 0x before it, hexadecimal digits; none when it is not from `lowest` to `highest`.
 std::optional<std::int64_t> parseNumber(const std::string& word, std::int64_t lowest, std::int64_t highest);
-
-/// "a number from 0 to 255"
-std::string numberRange(std::int64_t lowest, std::int64_t highest);
 
 /// A number that the type holds.
 template <typename Number>
@@ -27,18 +27,101 @@ std::optional<Number> parseNumberOf(const std::string& word)
     return number ? std::optional(static_cast<Number>(*number)) : std::nullopt;
 }
 
-inline constexpr RadioChannel FirstChannel = 1;
-inline constexpr RadioChannel LastChannel = 2;
-
-std::optional<RadioChannel> parseChannel(const std::string& word);
-
 /// 20 bytes as 40 hexadecimal digits.
+std::string coefficientsForm();
 std::optional<DpdCoeffs> parseCoefficients(const std::string& word);
 
 /// The coefficients as parseCoefficients() reads them.
 std::string printCoefficients(const DpdCoeffs& coefficients);
 
-/// "20 bytes as 40 hexadecimal digits"
-std::string coefficientsForm();
+struct ChannelNumber
+{
+    static std::string form();
+    static std::optional<ChannelNumber> parse(const std::string& word);
+
+    RadioChannel number;
+};
+
+/// "30", "1.5s", "10min", "2h"
+struct Duration
+{
+    static std::string form();
+    static std::optional<Duration> parse(const std::string& word);
+
+    radio::Ticks ticks;
+};
+
+struct RainRate
+{
+    static std::string form();
+    static std::optional<RainRate> parse(const std::string& word);
+
+    double mm_per_h;
+};
+
+struct FadeDepth
+{
+    static std::string form();
+    static std::optional<FadeDepth> parse(const std::string& word);
+
+    double depth_dB;
+};
+
+struct Distance
+{
+    static std::string form();
+    static std::optional<Distance> parse(const std::string& word);
+
+    double distance_km;
+};
+
+/// "on" or "off"
+struct Switch
+{
+    static std::string form();
+    static std::optional<Switch> parse(const std::string& word);
+
+    bool on;
+};
+
+struct TraceLevel
+{
+    static std::string form();
+    static std::optional<TraceLevel> parse(const std::string& word);
+
+    std::int32_t level;
+};
+
+struct ScenarioName
+{
+    static std::string form();
+    static std::optional<ScenarioName> parse(const std::string& word);
+
+    std::string nameOrFile;
+};
+
+struct ChannelPattern
+{
+    static std::string form();
+    static std::optional<ChannelPattern> parse(const std::string& word);
+
+    std::string pattern;
+};
+
+struct FileName
+{
+    static std::string form();
+    static std::optional<FileName> parse(const std::string& word);
+
+    std::string name;
+};
+
+/// The words of a fault, all that are left of the line.
+struct FaultWords
+{
+    static std::string form();
+
+    std::vector<std::string> words;
+};
 
 } // namespace node::cli

@@ -1,66 +1,129 @@
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <getopt.h>
 #include <unistd.h>
 
+#include "node/cli/Desk.h"
 #include "node/cli/Help.h"
 #include "node/cli/Session.h"
-#include "node/cli/UsageError.h"
-#include "node/startup/Node.h"
+#include "node/scenario/Scenario.h"
+#include "node/wording/InputError.h"
 
 namespace
 {
 
-using node::cli::quoted;
 using node::cli::Session;
 using node::cli::Status;
-using node::cli::UsageError;
+using node::wording::InputError;
+using node::wording::quoted;
 
-Status runCommands(const std::vector<std::string>& words)
+struct Options
 {
-    node::startup::Node node;
-    Session session(node.commands(), std::cout, std::cerr);
-    if (!words.empty())
+    bool help = false;
+    bool version = false;
+    node::startup::Configuration node;
+    std::optional<bool> clockOnTheWall;
+    std::vector<std::string> words; ///< of the command
+};
+
+bool parseClock(const std::string& word)
+{
+    if (word != "wall" && word != "told")
     {
-        return session.carryOut(words);
+        throw InputError("option --clock", quoted(word), "told or wall");
     }
-    const bool atTerminal = isatty(STDIN_FILENO) != 0;
-    const Status status =
-        session.runLines(std::cin, atTerminal ? Session::Lines::AtPrompt : Session::Lines::FromScript);
+    return word == "wall";
+}
+
+Options parseOptions(int argc, char** argv)
+{
+    const option options[] = {
+        {"clock", required_argument, nullptr, 'c'},
+        {"help", no_argument, nullptr, 'h'},
+        {"scenario", required_argument, nullptr, 's'},
+        {"version", no_argument, nullptr, 'V'},
+        {},
+    };
+    opterr = 0;
+    Options parsed;
+    for (;;)
+    {
+        const std::string word = optind < argc ? argv[optind] : "";
+        // "+": what follows the command is the command's, negative numbers among it. ":": a missing value has its own
+        // answer.
+        switch (getopt_long(argc, argv, "+:hs:", options, nullptr))
+        {
+        case -1:
+            parsed.words.assign(argv + optind, argv + argc);
+            return parsed;
+        case 'c':
+            parsed.clockOnTheWall = parseClock(optarg);
+            break;
+        case 'h':
+            parsed.help = true;
+            break;
+        case 's':
+            parsed.node = node::scenario::load(optarg).configuration;
+            break;
+        case 'V':
+            parsed.version = true;
+            break;
+        case ':':
+            throw InputError("option " + word, "nothing", "a value");
+        default:
+            throw InputError("option", quoted(word), "one that \"kel-node --help\" lists");
+        }
+    }
+}
+
+node::radio::Ticks wallClock()
+{
+    return std::chrono::floor<node::radio::Ticks>(std::chrono::steady_clock::now().time_since_epoch());
+}
+
+Status runCommands(const Options& options)
+{
+    node::cli::NodeDesk desk;
+    const bool needsNode = options.words.empty() || options.words.front() != "help";
+    if (needsNode)
+    {
+        desk.start(options.node);
+    }
+    const bool atPrompt = options.words.empty() && isatty(STDIN_FILENO) != 0;
+    const bool byWall = options.clockOnTheWall.value_or(atPrompt);
+    Session session(desk, std::cout, std::cerr, byWall ? wallClock : Session::Clock());
+    if (!options.words.empty())
+    {
+        return session.carryOut(options.words);
+    }
+    const Status status = session.runLines(std::cin, atPrompt ? Session::Lines::AtPrompt : Session::Lines::FromScript);
     if (std::ferror(stdin) != 0)
     {
-        throw UsageError("standard input", "it unreadable", "lines");
+        throw InputError("standard input", "it unreadable", "lines");
     }
     return status;
 }
 
 Status runProgram(int argc, char** argv)
 {
-    const option options[] = {
-        {"help", no_argument, nullptr, 'h'},
-        {"version", no_argument, nullptr, 'V'},
-        {},
-    };
-    opterr = 0;
-    const char* const word = optind < argc ? argv[optind] : "";
-    // "+": what follows the command is the command's, negative numbers among it.
-    switch (getopt_long(argc, argv, "+h", options, nullptr))
+    const Options options = parseOptions(argc, argv);
+    if (options.help)
     {
-    case -1:
-        return runCommands({argv + optind, argv + argc});
-    case 'h':
         std::cout << node::cli::overview();
         return Status::Done;
-    case 'V':
+    }
+    if (options.version)
+    {
         std::cout << "kel-node " KEL_VERSION "\n";
         return Status::Done;
-    default:
-        throw UsageError("option", quoted(word), "--help or --version");
     }
+    return runCommands(options);
 }
 
 } // namespace
@@ -78,7 +141,7 @@ int main(int argc, char** argv)
         }
         return static_cast<int>(status);
     }
-    catch (const UsageError& error)
+    catch (const InputError& error)
     {
         std::cerr << "kel-node: " << error.what() << std::endl;
         return static_cast<int>(Status::NotUnderstood);

@@ -2,6 +2,30 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
+
+#include "node/framework/Admission.h"
+
+namespace
+{
+
+node::framework::Admission& theAdmission()
+{
+    static node::framework::Admission admission = [] {};
+    return admission;
+}
+
+} // namespace
+
+namespace node::framework
+{
+
+Admission setAdmission(Admission admission)
+{
+    return std::exchange(theAdmission(), std::move(admission));
+}
+
+} // namespace node::framework
 
 CModuleManager& CModuleManager::GetInstance()
 {
@@ -11,6 +35,7 @@ CModuleManager& CModuleManager::GetInstance()
 
 void CModuleManager::RegisterModule(ModuleInterface* module)
 {
+    theAdmission()();
     // A name is a module's identity here: neither the same module nor one of the same name is entered twice.
     const std::string& name = module->registration().name;
     const bool known = std::any_of(m_modules.begin(), m_modules.end(),

@@ -2,18 +2,10 @@
 
 #include <cmath>
 
+#include "node/radio/Decibel.h"
+
 namespace node::radio
 {
-
-namespace
-{
-
-double linear(double decibels)
-{
-    return std::pow(10.0, decibels / 10.0);
-}
-
-} // namespace
 
 double freeSpaceLoss_dB(double frequency_GHz, double distance_km)
 {
@@ -22,15 +14,15 @@ double freeSpaceLoss_dB(double frequency_GHz, double distance_km)
 
 double noisePower_dBm(double symbolRate_Bd, double noiseFigure_dB)
 {
-    return -173.975 + 10.0 * std::log10(symbolRate_Bd) + noiseFigure_dB;
+    return -173.975 + decibels(symbolRate_Bd) + noiseFigure_dB;
 }
 
-double snir_dB(double signalToNoise_dB, double discrimination_dB, double floor_dB)
+double snir_dB(double signalToNoise_dB, double signalToInterference_dB, double floor_dB)
 {
-    return -10.0 * std::log10(linear(-signalToNoise_dB) + linear(-discrimination_dB) + linear(-floor_dB));
+    return -decibels(linear(-signalToNoise_dB) + linear(-signalToInterference_dB) + linear(-floor_dB));
 }
 
-double hopLengthTime_ns(double distance_km)
+double travelTime_ns(double distance_km)
 {
     constexpr double RefractiveIndex = 1.000315;
     constexpr double SpeedOfLight_km_per_s = 299792.458;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// How a signal fares between the two ends of a hop. Decibels throughout; functions without state.
+/// How a signal fares between the two ends of a hop in clear sky. Functions without state.
 namespace node::radio
 {
 
@@ -12,12 +12,12 @@ double noisePower_dBm(double symbolRate_Bd, double noiseFigure_dB);
 
 /// Signal to noise-and-interference ratio (SNIR): noise, what is left of the other polarisation, and the
 /// transmitter's own floor, added as powers.
-/// @param signalToNoise_dB    received level above the noise power
-/// @param discrimination_dB   cross-polar discrimination plus what the canceller adds to it
-/// @param floor_dB            SNIR of an undisturbed receiver
-double snir_dB(double signalToNoise_dB, double discrimination_dB, double floor_dB);
+/// @param signalToNoise_dB         received level above the noise power
+/// @param signalToInterference_dB  above what is left of the other polarisation
+/// @param floor_dB                 SNIR of an undisturbed receiver
+double snir_dB(double signalToNoise_dB, double signalToInterference_dB, double floor_dB);
 
 /// Time that the signal takes over the hop in the air of ITU-R P.453 (refractive index 1.000315).
-double hopLengthTime_ns(double distance_km);
+double travelTime_ns(double distance_km);
 
 } // namespace node::radio

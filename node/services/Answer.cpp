@@ -5,18 +5,29 @@
 namespace node::services
 {
 
-std::string unknownChannel(RadioChannel channel)
+std::string unknownChannel(RadioChannel channel, const radio::RadioLink& link)
 {
-    return "radio channel: found " + std::to_string(channel) + ", expected 1 or 2";
+    return "radio channel: found " + std::to_string(channel) +
+           (link.numberOfChannels() == 1 ? ", expected 1" : ", expected 1 or 2");
 }
 
 std::string stateOf(const radio::Xpic& xpic)
 {
-    if (xpic.slaveMuted)
+    using enum radio::XpicState;
+    switch (xpic.state)
     {
-        return "Muted";
+    case Idle:
+        return "Idle";
+    case Acquiring:
+        return "Acquiring";
+    case Acquired:
+        return xpic.slaveMuted ? "Muted" : "Locked";
+    case Failed:
+        return "Failed";
+    case Lost:
+        break;
     }
-    return xpic.acquired ? "Locked" : "Unlocked";
+    return "Lost";
 }
 
 std::int32_t hundredths(double decibels)

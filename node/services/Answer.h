@@ -10,12 +10,8 @@
 namespace node::services
 {
 
-/// The result code of a refusal: of the top-level API, and of the other interfaces.
-inline constexpr std::int32_t TopApiRefusal = 1;
-inline constexpr std::int32_t PlatformRefusal = 0x8000;
-
 /// The text of a refusal for a channel that the link does not have.
-std::string unknownChannel(RadioChannel channel);
+std::string unknownChannel(RadioChannel channel, const radio::RadioLink& link);
 
 /// The state of a canceller.
 std::string stateOf(const radio::Xpic& xpic);

@@ -6,8 +6,13 @@ IRlbspKelApi::KelDebugCmdCallback::~KelDebugCmdCallback() = default;
 namespace node::services
 {
 
+BoardSupport::BoardSupport(FaultPlan& faults) : m_faults(faults)
+{
+}
+
 void BoardSupport::installDebugCmdCallback(KelDebugCmdCallback* callback)
 {
+    m_faults.pass("IRlbspKelApi.installDebugCmdCallback", 0);
     m_callback = callback;
 }
 

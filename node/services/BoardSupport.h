@@ -1,5 +1,6 @@
 #pragma once
 
+#include "node/services/FaultPlan.h"
 #include "radio/IRlbspKelApi.h"
 
 namespace node::services
@@ -9,12 +10,16 @@ namespace node::services
 class BoardSupport : public IRlbspKelApi
 {
 public:
+    /// @param faults  borrowed; outlives the object
+    explicit BoardSupport(FaultPlan& faults);
+
     void installDebugCmdCallback(KelDebugCmdCallback* callback) override;
 
     /// Null while none is installed.
     KelDebugCmdCallback* installedCallback() const;
 
 private:
+    FaultPlan& m_faults;
     KelDebugCmdCallback* m_callback = nullptr;
 };
 

@@ -30,18 +30,16 @@ node::radio::PpsRequest requestOf(CriCalibrateDspPps::CalibrationMode mode)
 
 StandardResponse criCalibrateDspPps(const CriCalibrateDspPps::Command& command)
 {
-    StandardResponse response;
-    if (command.calibrationMode > CriCalibrateDspPps::CalibrationMode::Mode3)
+    const auto work = [&](node::radio::RadioLink& link, StandardResponse& response)
     {
-        node::services::refuse(response, "calibration mode: found a number out of range, expected 0 to 3");
-        return response;
-    }
-    if (auto* const link = node::services::linkOf(command.radioChannel, response))
-    {
-        link->change(command.radioChannel, [&](node::radio::Channel& channel)
-                     { calibrate(channel.pps, requestOf(command.calibrationMode), command.calibrationValue); });
-    }
-    return response;
+        if (command.calibrationMode > CriCalibrateDspPps::CalibrationMode::Mode3)
+        {
+            node::services::refuse(response, "calibration mode: found a number out of range, expected 0 to 3");
+            return;
+        }
+        link.calibratePps(command.radioChannel, requestOf(command.calibrationMode), command.calibrationValue);
+    };
+    return node::services::answer<StandardResponse>("criCalibrateDspPps", command.radioChannel, work);
 }
 
 } // namespace kel_top_api

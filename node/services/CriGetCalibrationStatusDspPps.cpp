@@ -54,14 +54,14 @@ std::uint32_t numberOf(node::radio::PpsFailure failure)
 CriGetCalibrationStatusDspPps::Response
 criGetCalibrationStatusDspPps(const CriGetCalibrationStatusDspPps::Command& command)
 {
-    CriGetCalibrationStatusDspPps::Response response;
-    if (const auto* const link = node::services::linkOf(command.radioChannel, response))
+    using Response = CriGetCalibrationStatusDspPps::Response;
+    const auto work = [&](const node::radio::RadioLink& link, Response& response)
     {
-        const auto pps = link->snapshot(command.radioChannel).state.pps;
+        const auto pps = link.snapshot(command.radioChannel).state.pps;
         response.calibrationStatus = numberOf(pps.calibration);
         response.calibrationFailureReason = numberOf(pps.failure);
-    }
-    return response;
+    };
+    return node::services::answer<Response>("criGetCalibrationStatusDspPps", command.radioChannel, work);
 }
 
 } // namespace kel_top_api

@@ -1,5 +1,6 @@
 #include "kel_top_api/CriGetRadioChannelCapability.h"
 
+#include "node/radio/Range.h"
 #include "node/services/Answer.h"
 #include "node/services/ModulationNames.h"
 #include "node/services/TopApi.h"
@@ -10,61 +11,58 @@ namespace kel_top_api
 namespace
 {
 
-// The 18 GHz plan of ITU-R F.595: 35 channels of 27.5 MHz in either half, 1010 MHz apart.
-constexpr std::uint32_t Channels = 35;
-constexpr std::uint32_t ChannelSpacing_kHz = 27'500;
-constexpr std::uint32_t LowestTx_kHz = 17'727'500;
-constexpr std::uint32_t Duplex_kHz = 1'010'000;
-constexpr std::uint32_t Span_kHz = (Channels - 1) * ChannelSpacing_kHz;
-
-// Assumed, as the radio's step and range of power and temperature are.
+// What the radio's frequency step and its temperatures are is assumed.
 constexpr std::uint32_t Step_kHz = 250;
-constexpr double LowestPower_dBm = -2.0;
 constexpr std::int32_t LowestTemperature_C = -33;
 constexpr std::int32_t HighestTemperature_C = 55;
+
+void fill(CriGetRadioChannelCapability::Response& response, const node::radio::Hop& hop)
+{
+    response.MinTemp = LowestTemperature_C;
+    response.MaxTemp = HighestTemperature_C;
+    response.AvailableMinRFOutputPower = node::services::hundredths(node::radio::LowestPower_dBm);
+    for (const auto& row : getModulationAndCodeVector())
+    {
+        if (const auto modulation = node::services::modulationOf(row))
+        {
+            const double backOff_dB = node::radio::backOff_dB(node::radio::modulations()[*modulation]);
+            response.AvailableMaxRFOutputPower.push_back(
+                {row.code, node::services::hundredths(hop.peakPower_dBm - backOff_dB)});
+        }
+    }
+    const node::radio::FrequencyPlan& plan = *hop.plan;
+    const std::uint32_t span_kHz = (plan.channels - 1) * plan.spacing_kHz;
+    response.MinTXFrequency = plan.low_kHz(1);
+    response.MaxTXFrequency = plan.low_kHz(plan.channels);
+    response.MinRXFrequency = plan.high_kHz(1);
+    response.MaxRXFrequency = plan.high_kHz(plan.channels);
+    response.FrequencyStepSize = Step_kHz;
+    response.MinTXFrequencyStep = 0;
+    response.MaxTXFrequencyStep = span_kHz / Step_kHz;
+    response.MinRXFrequencyStep = 0;
+    response.MaxRXFrequencyStep = span_kHz / Step_kHz;
+    response.TXBaseFrequency = plan.low_kHz(1);
+    response.RXBaseFrequency = plan.high_kHz(1);
+    response.FrequencyBand = plan.band_GHz;
+    response.FrequencySubBand = 1;
+    response.DuplexType = "FDD";
+    response.AvailableRSECs = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    response.TapsCapable = true;
+    response.RfLoopAvailable = true;
+}
 
 } // namespace
 
 CriGetRadioChannelCapability::Response
 criGetRadioChannelCapability(const CriGetRadioChannelCapability::Command& command)
 {
-    CriGetRadioChannelCapability::Response response;
-    const auto* const link = node::services::linkOf(command.radioChannel, response);
-    if (link == nullptr)
+    using Response = CriGetRadioChannelCapability::Response;
+    const auto work = [&](const node::radio::RadioLink& link, Response& response)
     {
-        return response;
-    }
-    response.NumberOfChannels = node::radio::RadioLink::NumberOfChannels;
-    response.MinTemp = LowestTemperature_C;
-    response.MaxTemp = HighestTemperature_C;
-    response.AvailableMinRFOutputPower = node::services::hundredths(LowestPower_dBm);
-    for (const auto& row : getModulationAndCodeVector())
-    {
-        if (row.code != UndefinedModulationAndCode)
-        {
-            const double backOff_dB = node::radio::backOff_dB(node::services::modulationOf(row));
-            response.AvailableMaxRFOutputPower.push_back(
-                {row.code, node::services::hundredths(link->hop().peakPower_dBm - backOff_dB)});
-        }
-    }
-    response.MinTXFrequency = LowestTx_kHz;
-    response.MaxTXFrequency = LowestTx_kHz + Span_kHz;
-    response.MinRXFrequency = LowestTx_kHz + Duplex_kHz;
-    response.MaxRXFrequency = LowestTx_kHz + Duplex_kHz + Span_kHz;
-    response.FrequencyStepSize = Step_kHz;
-    response.MinTXFrequencyStep = 0;
-    response.MaxTXFrequencyStep = Span_kHz / Step_kHz;
-    response.MinRXFrequencyStep = 0;
-    response.MaxRXFrequencyStep = Span_kHz / Step_kHz;
-    response.TXBaseFrequency = LowestTx_kHz;
-    response.RXBaseFrequency = LowestTx_kHz + Duplex_kHz;
-    response.FrequencyBand = 18;
-    response.FrequencySubBand = 1;
-    response.DuplexType = "FDD";
-    response.AvailableRSECs = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-    response.TapsCapable = true;
-    response.RfLoopAvailable = true;
-    return response;
+        response.NumberOfChannels = link.numberOfChannels();
+        fill(response, link.snapshot(command.radioChannel).hop);
+    };
+    return node::services::answer<Response>("criGetRadioChannelCapability", command.radioChannel, work);
 }
 
 } // namespace kel_top_api

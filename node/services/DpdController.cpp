@@ -13,41 +13,78 @@ constexpr std::uint32_t AdaptFromPresent = 1;
 
 } // namespace
 
-DpdController::DpdController(radio::RadioLink& link, RadioChannel channel) : m_link(link), m_channel(channel)
+DpdController::DpdController(const ServiceContext& context, RadioChannel channel)
+    : m_context(context), m_channel(channel)
 {
+}
+
+EDPDResult DpdController::answer(std::string_view call, const std::function<EDPDResult()>& work)
+{
+    return answerByPlan(m_context.faults, call, m_channel, work,
+                        [](const PlannedAnswer& planned) { return EDPDResult{planned.code}; });
 }
 
 EDPDResult DpdController::start(std::uint32_t startParameter)
 {
-    if (startParameter != AdaptFromPresent)
+    const auto work = [&]
     {
-        return EDPDResult::Failure;
-    }
-    m_link.change(m_channel, [](radio::Channel& channel) { channel.dpd.running = true; });
-    return EDPDResult::Success;
+        if (startParameter != AdaptFromPresent)
+        {
+            return EDPDResult::Failure;
+        }
+        EDPDResult result = EDPDResult::Success;
+        m_context.link.change(m_channel,
+                              [&](radio::Channel& channel)
+                              {
+                                  if (channel.modem.locked)
+                                  {
+                                      channel.dpd.start();
+                                  }
+                                  else
+                                  {
+                                      result = NotLocked;
+                                  }
+                              });
+        return result;
+    };
+    return answer("IDpdControllerSplit.start", work);
 }
 
 EDPDResult DpdController::stop()
 {
-    m_link.change(m_channel, [](radio::Channel& channel) { channel.dpd.running = false; });
-    return EDPDResult::Success;
+    const auto work = [&]
+    {
+        m_context.link.change(m_channel, [](radio::Channel& channel) { channel.dpd.stop(); });
+        return EDPDResult::Success;
+    };
+    return answer("IDpdControllerSplit.stop", work);
 }
 
 std::uint32_t DpdController::getStartParameter()
 {
-    return AdaptFromPresent;
+    const auto planned = m_context.faults.pass("IDpdControllerSplit.getStartParameter", m_channel);
+    return planned ? static_cast<std::uint32_t>(planned->code) : AdaptFromPresent;
 }
 
 EDPDResult DpdController::getCoeffs(DpdCoeffs* coefficients)
 {
-    coefficients->bytes = m_link.snapshot(m_channel).state.dpd.coefficients;
-    return EDPDResult::Success;
+    const auto work = [&]
+    {
+        coefficients->bytes = m_context.link.snapshot(m_channel).state.dpd.coefficients;
+        return EDPDResult::Success;
+    };
+    return answer("IDpdControllerSplit.getCoeffs", work);
 }
 
 EDPDResult DpdController::setCoeffs(DpdCoeffs coefficients)
 {
-    m_link.change(m_channel, [&](radio::Channel& channel) { channel.dpd.coefficients = coefficients.bytes; });
-    return EDPDResult::Success;
+    const auto work = [&]
+    {
+        m_context.link.change(m_channel,
+                              [&](radio::Channel& channel) { channel.dpd.coefficients = coefficients.bytes; });
+        return EDPDResult::Success;
+    };
+    return answer("IDpdControllerSplit.setCoeffs", work);
 }
 
 } // namespace node::services

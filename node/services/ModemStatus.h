@@ -1,6 +1,6 @@
 #pragma once
 
-#include "node/radio/RadioLink.h"
+#include "node/services/ServiceContext.h"
 #include "radio/ITiGetDspModemStatus.h"
 
 namespace node::services
@@ -10,15 +10,16 @@ namespace node::services
 class ModemStatus : public ITiGetDspModemStatus
 {
 public:
-    /// @param link  borrowed; outlives the object
-    explicit ModemStatus(const radio::RadioLink& link);
+    explicit ModemStatus(const ServiceContext& context);
 
     /// Knows request 2, the modem's full status; refuses others.
     DspModemStatusResult getDspModemStatus(RadioChannel channel, DspModemStatus* status) override;
     std::string toString(DspModemStatus status) override;
 
 private:
-    const radio::RadioLink& m_link;
+    DspModemStatusResult fill(RadioChannel channel, DspModemStatus& status) const;
+
+    ServiceContext m_context;
 };
 
 } // namespace node::services

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "kel_top_api/ModulationAndCode.h"
 #include "node/radio/Modulation.h"
@@ -8,10 +10,16 @@
 namespace node::services
 {
 
-/// The link's modulation of a row of the API's table.
-radio::Modulation modulationOf(const kel_top_api::ModulationAndCode& row);
+/// The link's modulation of a row of the API's table; none for the row that names no modulation.
+std::optional<radio::ModulationIndex> modulationOf(const kel_top_api::ModulationAndCode& row);
 
-/// The API's name of a modulation of the link; "UNDEFINED" when the table does not know it.
+/// The link's modulation of that name; none for a name that the table does not have.
+std::optional<radio::ModulationIndex> modulationNamed(const std::string& name);
+
+/// The API's name of a modulation of the link.
 std::string nameOf(const radio::Modulation& modulation);
+
+/// The names of all modulations, from the most robust to the fastest.
+std::vector<std::string> modulationNames();
 
 } // namespace node::services

@@ -2,27 +2,39 @@
 
 #include "node/services/Answer.h"
 #include "node/services/ModulationNames.h"
+#include "node/services/PlatformCall.h"
 
 ITiManageRadioChannelNearEnd::~ITiManageRadioChannelNearEnd() = default;
 
 namespace node::services
 {
 
-RadioChannelNearEnd::RadioChannelNearEnd(const radio::RadioLink& link) : m_link(link)
+RadioChannelNearEnd::RadioChannelNearEnd(const ServiceContext& context) : m_context(context)
 {
 }
 
 RadioChannelInfoResult RadioChannelNearEnd::getRadioChannelInfo(const RadioChannelInfoRequest& request,
                                                                 RadioChannelInfo* info)
 {
-    if (!radio::RadioLink::hasChannel(request.radioChannel))
+    return answerByPlan(
+        m_context.faults, "ITiManageRadioChannelNearEnd.getRadioChannelInfo", request.radioChannel,
+        [&] { return fill(request.radioChannel, *info); },
+        [](const PlannedAnswer& planned) {
+            return RadioChannelInfoResult{planned.code, planned.text};
+        });
+}
+
+RadioChannelInfoResult RadioChannelNearEnd::fill(RadioChannel channel, RadioChannelInfo& info) const
+{
+    if (!m_context.link.hasChannel(channel))
     {
-        return {PlatformRefusal, unknownChannel(request.radioChannel)};
+        return {PlatformRefusal, unknownChannel(channel, m_context.link)};
     }
-    info->radioChannelId = static_cast<std::int32_t>(request.radioChannel);
-    info->radioFrameId = 1;
-    info->minModulationAndCode = "4QAM_STRONG";
-    info->maxModulationAndCode = nameOf(m_link.hop().modulation);
+    const auto modem = m_context.link.snapshot(channel).state.modem;
+    info.radioChannelId = static_cast<std::int32_t>(channel);
+    info.radioFrameId = 1;
+    info.minModulationAndCode = nameOf(radio::modulations()[modem.lowest]);
+    info.maxModulationAndCode = nameOf(radio::modulations()[modem.highest]);
     return {};
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "node/radio/RadioLink.h"
+#include "node/services/ServiceContext.h"
 #include "radio/ITiManageRadioChannelNearEnd.h"
 
 namespace node::services
@@ -10,13 +10,14 @@ namespace node::services
 class RadioChannelNearEnd : public ITiManageRadioChannelNearEnd
 {
 public:
-    /// @param link  borrowed; outlives the object
-    explicit RadioChannelNearEnd(const radio::RadioLink& link);
+    explicit RadioChannelNearEnd(const ServiceContext& context);
 
     RadioChannelInfoResult getRadioChannelInfo(const RadioChannelInfoRequest& request, RadioChannelInfo* info) override;
 
 private:
-    const radio::RadioLink& m_link;
+    RadioChannelInfoResult fill(RadioChannel channel, RadioChannelInfo& info) const;
+
+    ServiceContext m_context;
 };
 
 } // namespace node::services

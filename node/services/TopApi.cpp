@@ -1,8 +1,10 @@
 #include "node/services/TopApi.h"
 
 #include <atomic>
+#include <stdexcept>
 
 #include "node/services/Answer.h"
+#include "node/services/PlatformCall.h"
 
 namespace node::services
 {
@@ -10,18 +12,27 @@ namespace node::services
 namespace
 {
 
-std::atomic<radio::RadioLink*> boundLink = nullptr;
+std::atomic<const ServiceContext*> bound = nullptr;
 
 } // namespace
 
-TopApiBinding::TopApiBinding(radio::RadioLink& link)
+TopApiBinding::TopApiBinding(const ServiceContext& context) : m_context(context)
 {
-    boundLink = &link;
+    const ServiceContext* none = nullptr;
+    if (!bound.compare_exchange_strong(none, &m_context))
+    {
+        throw std::logic_error("top-level API: found another node, expected one at a time");
+    }
 }
 
 TopApiBinding::~TopApiBinding()
 {
-    boundLink = nullptr;
+    bound = nullptr;
+}
+
+const ServiceContext* boundContext()
+{
+    return bound;
 }
 
 void refuse(kel_top_api::BaseResponse& response, const std::string& reason)
@@ -30,20 +41,14 @@ void refuse(kel_top_api::BaseResponse& response, const std::string& reason)
     response.resultText = reason;
 }
 
-radio::RadioLink* linkOf(RadioChannel channel, kel_top_api::BaseResponse& response)
+bool checkChannel(const radio::RadioLink& link, RadioChannel channel, kel_top_api::BaseResponse& response)
 {
-    radio::RadioLink* const link = boundLink;
-    if (link == nullptr)
+    if (!link.hasChannel(channel))
     {
-        refuse(response, "the node is not started");
-        return nullptr;
+        refuse(response, unknownChannel(channel, link));
+        return false;
     }
-    if (!radio::RadioLink::hasChannel(channel))
-    {
-        refuse(response, unknownChannel(channel));
-        return nullptr;
-    }
-    return link;
+    return true;
 }
 
 } // namespace node::services

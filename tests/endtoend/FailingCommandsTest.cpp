@@ -8,13 +8,6 @@
 namespace
 {
 
-/// The trace's line of a message that a command of the module wrote.
-std::string traced(const std::string& function, const std::string& text)
-{
-    return "[KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE " + function + ": " + text +
-           "\n";
-}
-
 /// A command that fails, and what it writes to standard error.
 struct Row
 {

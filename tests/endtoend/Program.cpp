@@ -59,6 +59,15 @@ File pipeWith(const std::string& text)
     return {fdopen(ends[0], "r"), std::fclose};
 }
 
+int statusOf(pid_t program)
+{
+    int status = 0;
+    check(waitpid(program, &status, 0) == program, "waitpid");
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+} // namespace
+
 std::vector<char*> pointersTo(std::vector<std::string>& texts)
 {
     std::vector<char*> pointers;
@@ -70,15 +79,6 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
     pointers.push_back(nullptr);
     return pointers;
 }
-
-int statusOf(pid_t program)
-{
-    int status = 0;
-    check(waitpid(program, &status, 0) == program, "waitpid");
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
-
-} // namespace
 
 Finished finish(const Run& run)
 {
@@ -135,6 +135,17 @@ Finished runCommand(const std::string& line)
 Finished runScript(const std::string& lines)
 {
     return finish({.arguments = {}, .input = lines});
+}
+
+Finished runScenario(const std::string& scenario, const std::string& lines)
+{
+    return finish({.arguments = {"--scenario", scenario}, .input = lines});
+}
+
+std::string traced(const std::string& function, const std::string& text)
+{
+    return "[KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE " + function + ": " + text +
+           "\n";
 }
 
 std::string withoutSourceLines(const std::string& text)

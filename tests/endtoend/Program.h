@@ -30,5 +30,14 @@ Finished runCommand(const std::string& line);
 /// Runs the lines of a script.
 Finished runScript(const std::string& lines);
 
+/// Runs the lines of a script on the node of a scenario.
+Finished runScenario(const std::string& scenario, const std::string& lines);
+
+/// The texts as a program is given them, with a null behind the last. They point into `texts`.
+std::vector<char*> pointersTo(std::vector<std::string>& texts);
+
+/// The trace's line of a failure that a function of the module traces, with "LINE" for the number of its source line.
+std::string traced(const std::string& function, const std::string& text);
+
 /// The text with "LINE" for the number of each source line, which moves as the source grows.
 std::string withoutSourceLines(const std::string& text);

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <sys/wait.h>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -43,9 +45,16 @@ std::vector<Example> examples()
     return found;
 }
 
-/// What the command writes to standard output, with the program that was just built in place of the script.
-std::string outputOf(std::string command)
+/// A command that fails ends so, and the README shows it.
+int expectedStatus(const Example& example)
 {
+    return example.output.ends_with(": failed\n") ? 1 : 0;
+}
+
+/// What the example's command writes to standard output, with the program that was just built in place of the script.
+std::string outputOf(const Example& example)
+{
+    std::string command = example.command;
     const std::string script = "script/run";
     const auto place = command.find(script);
     EXPECT_NE(std::string::npos, place) << command;
@@ -58,22 +67,24 @@ std::string outputOf(std::string command)
     {
         output.append(piece.data(), length);
     }
-    EXPECT_EQ(0, pclose(pipe)) << command;
+    EXPECT_EQ(expectedStatus(example), WEXITSTATUS(pclose(pipe))) << command;
     return output;
 }
 
-TEST(ReadmeTest, ShowsAReportAndAScript)
+TEST(ReadmeTest, ShowsAReportAndScripts)
 {
-    ASSERT_EQ(2U, examples().size());
+    ASSERT_EQ(4U, examples().size());
     EXPECT_EQ("script/run getCtStatus 1", examples()[0].command);
     EXPECT_NE(std::string::npos, examples()[1].command.find("| script/run"));
+    EXPECT_NE(std::string::npos, examples()[2].command.find("| script/run --scenario rain-front"));
+    EXPECT_NE(std::string::npos, examples()[3].command.find("addFault"));
 }
 
 TEST(ReadmeTest, EveryExampleShowsWhatItPrints)
 {
     for (const Example& example : examples())
     {
-        EXPECT_EQ(example.output, outputOf(example.command)) << example.command;
+        EXPECT_EQ(example.output, outputOf(example)) << example.command;
     }
 }
 

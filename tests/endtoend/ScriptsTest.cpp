@@ -64,33 +64,48 @@ TEST(ScriptsTest, SeeACalibrationThatIsKeptByItself)
 --- [4]: Fine calibration in auto mode
 --- [5]: Calibration failed: 0
 )",
-                 "calibratePps 2 2 0\ngetPpsCalibrationStatus 2\n");
+                 "calibratePps 2 2 0\nadvance 40\ngetPpsCalibrationStatus 2\n");
 }
 
 TEST(ScriptsTest, SeePredistortionStoppedAndStarted)
 {
-    const std::string stopped = R"(Modem status of radio channel 2
-Symbol rate:   25000 kBd
-Constellation: 4096 points
-Level:         -43.02 dBm
-SNIR:          34.88 dB
-DPD:           stopped
-XPIC:          acquired
-)";
-    const std::string running = R"(Modem status of radio channel 2
-Symbol rate:   25000 kBd
-Constellation: 4096 points
-Level:         -43.02 dBm
-SNIR:          43.91 dB
-DPD:           running
-XPIC:          acquired
-)";
-    expectOutput(stopped + running, "stopDpd 2\ngetBcmModemStatus 2\nstartDpd 2\ngetBcmModemStatus 2\n");
+    const auto status = [](const std::string& snir_dB, const std::string& dpd)
+    {
+        return "Modem status of radio channel 2\n"
+               "Lock:          locked\n"
+               "Symbol rate:   25000 kBd\n"
+               "Constellation: 4096 points\n"
+               "Level:         -43.02 dBm\n"
+               "SNIR:          " +
+               snir_dB +
+               " dB\n"
+               "DPD:           " +
+               dpd +
+               "\n"
+               "XPIC:          acquired\n";
+    };
+    expectOutput(status("34.88", "stopped") + status("34.88", "running") + status("43.91", "running"),
+                 "stopDpd 2\ngetBcmModemStatus 2\nstartDpd 2\ngetBcmModemStatus 2\nadvance 10\ngetBcmModemStatus 2\n");
 }
 
 TEST(ScriptsTest, MayHoldCommentsEmptyLinesAndAnExit)
 {
     expectOutput("0\n", "# what follows reads a preamble\n\n  getXpicPreamble\t1\r\nexit\nnonsense\n");
+}
+
+TEST(ScriptsTest, MayQuoteWordsWithBlanks)
+{
+    expectOutput("tiManageXpic text=\"out of order\": seen 0, hit 0\n",
+                 "addFault tiManageXpic text=\"out of order\"\n\"listFaults\"\n");
+}
+
+TEST(ScriptsTest, EndAtAnOpenQuotationMark)
+{
+    const Finished run = runScript("getXpicPreamble 1\nhelp \"showLink\ngetXpicPreamble 2\n");
+    EXPECT_EQ("0\n", run.output);
+    EXPECT_EQ("kel-node: line 2: line: found a quotation mark alone, expected another one that closes it\n",
+              run.errors);
+    EXPECT_EQ(2, run.status);
 }
 
 TEST(ScriptsTest, NeedNoLastLineEnd)
@@ -102,8 +117,9 @@ TEST(ScriptsTest, EndAtALineThatIsNotUnderstood)
 {
     const Finished run = runScript("getXpicPreamble 1\n# comment\ngetXpicPreamble 3\ngetXpicPreamble 2\n");
     EXPECT_EQ("0\n", run.output);
-    EXPECT_EQ("kel-node: line 3: getXpicPreamble: argument 1 (channel): found \"3\", expected a number from 1 to 2\n",
-              run.errors);
+    EXPECT_EQ(
+        "kel-node: line 3: getXpicPreamble: argument 1 (channel): found \"3\", expected a whole number from 1 to 2\n",
+        run.errors);
     EXPECT_EQ(2, run.status);
 }
 

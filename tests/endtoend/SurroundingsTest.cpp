@@ -1,4 +1,6 @@
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -18,6 +20,10 @@ constexpr const char* EveryReport = "getCtStatus 1\n"
                                     "getDpdCoefficients 1\n"
                                     "getXpicStatus 1\n"
                                     "getXpicPreamble 1\n"
+                                    "setRain 42.5 1min\n"
+                                    "sample 90 0.7 -\n"
+                                    "showLink\n"
+                                    "help scenario\n"
                                     "setXpicPreamble 1 9\n";
 
 TEST(SurroundingsTest, HelpIsPrintedWithoutANode)
@@ -34,8 +40,15 @@ TEST(SurroundingsTest, HelpIsPrintedWithoutANode)
 TEST(SurroundingsTest, HelpIsACommandToo)
 {
     EXPECT_EQ(node::cli::overview(), runCommand("help").output);
-    EXPECT_EQ("startDpd <channel>\nStart digital predistortion.\n\n  channel  a number from 1 to 2: radio channel\n",
-              runCommand("help startDpd").output);
+    EXPECT_EQ(
+        "startDpd <channel>\nStart digital predistortion.\n\n  channel  a whole number from 1 to 2: radio channel\n",
+        runCommand("help startDpd").output);
+}
+
+TEST(SurroundingsTest, HelpOnScenariosIsTheirPageInTheDocs)
+{
+    std::ifstream page(KEL_SOURCE_DIR "/docs/scenarios.md", std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(page), {}), runCommand("help scenario").output);
 }
 
 TEST(SurroundingsTest, TheVersionIsPrinted)

@@ -1,90 +1,13 @@
-#include <array>
-#include <cerrno>
 #include <string>
-#include <system_error>
-
-#include <poll.h>
-#include <pty.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
+#include "endtoend/Program.h"
+#include "endtoend/Terminal.h"
+#include "node/cli/TemporaryFolder.h"
+
 namespace
 {
-
-/// The program at a terminal of its own. What a person sees there is what it wrote and what was typed.
-class Terminal
-{
-public:
-    Terminal() : m_program(forkpty(&m_terminal, nullptr, nullptr, nullptr))
-    {
-        if (m_program == 0)
-        {
-            execl(KEL_NODE, KEL_NODE, nullptr);
-            _exit(127);
-        }
-        if (m_program < 0)
-        {
-            throw std::system_error(errno, std::generic_category(), "forkpty");
-        }
-    }
-
-    ~Terminal()
-    {
-        close(m_terminal);
-        if (m_program > 0)
-        {
-            waitpid(m_program, nullptr, 0); // closing its terminal has ended it
-        }
-    }
-
-    Terminal(const Terminal&) = delete;
-    Terminal& operator=(const Terminal&) = delete;
-
-    void type(const std::string& keys) const
-    {
-        EXPECT_EQ(static_cast<ssize_t>(keys.size()), write(m_terminal, keys.data(), keys.size()));
-    }
-
-    /// What appears up to and with the next `end`, or up to the program's end.
-    std::string readUntil(const std::string& end)
-    {
-        constexpr int Patience_ms = 10'000;
-        constexpr std::size_t Enough = 100'000;
-        std::string seen;
-        pollfd ready{m_terminal, POLLIN, 0};
-        while (!seen.ends_with(end) && seen.size() < Enough && poll(&ready, 1, Patience_ms) == 1)
-        {
-            char character = 0;
-            if (read(m_terminal, &character, 1) != 1)
-            {
-                break;
-            }
-            seen += character;
-        }
-        return seen;
-    }
-
-    /// What appears until the program ends.
-    std::string readToTheEnd()
-    {
-        return readUntil(std::string("\0never written", 14));
-    }
-
-    /// Waits for the program's end.
-    int exitStatus()
-    {
-        int status = 0;
-        EXPECT_EQ(m_program, waitpid(m_program, &status, 0));
-        m_program = 0;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
-private:
-    int m_terminal = -1;
-    pid_t m_program;
-};
 
 constexpr const char* Prompt = "kel-node> ";
 
@@ -93,7 +16,7 @@ class TerminalTest : public ::testing::Test
 protected:
     TerminalTest()
     {
-        EXPECT_EQ("A simulated node with two radio channels. \"help\" lists the commands, \"exit\" leaves.\r\n"
+        EXPECT_EQ("A simulated node. \"help\" lists the commands, \"exit\" leaves.\r\n"
                   "kel-node> ",
                   terminal.readUntil(Prompt));
     }
@@ -105,7 +28,7 @@ protected:
         EXPECT_EQ(line + "\r\n" + answer + Prompt, terminal.readUntil(Prompt));
     }
 
-    Terminal terminal;
+    Terminal terminal{{KEL_NODE}};
 };
 
 TEST_F(TerminalTest, ACommandIsAnsweredAndExitLeaves)
@@ -127,6 +50,52 @@ TEST_F(TerminalTest, ThePromptIsThereAgainAfterAFailure)
     terminal.type("exit\n");
     EXPECT_EQ("exit\r\n", terminal.readToTheEnd());
     EXPECT_EQ(0, terminal.exitStatus());
+}
+
+TEST_F(TerminalTest, AScenarioIsLoadedAfterOneThatDidNotStart)
+{
+    expectAnswer("", "setXpicPreamble 1 2");
+    const std::string line = "loadScenario start-registration-throws";
+    expectAnswer("kel-node: module KelDebugCmd: its constructor threw: registry is full\r\n", line);
+    const std::string noNode = "kel-node: node: found none running, expected one; \"loadScenario\" starts one\r\n";
+    expectAnswer(noNode, "getXpicPreamble 1");
+    expectAnswer(noNode, "showLink");
+    expectAnswer("", "loadScenario clear-sky");
+    expectAnswer("0\r\n", "getXpicPreamble 1");
+}
+
+TEST_F(TerminalTest, AScenarioThatIsNotUnderstoodLeavesTheNode)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder.write("x.toml", "[hop]\ndistance_km = 0\n");
+    expectAnswer("", "setXpicPreamble 1 2");
+    expectAnswer("kel-node: " + file + ":2:15: hop.distance_km: found 0, expected a number from 0.1 to 100\r\n",
+                 "loadScenario " + file);
+    expectAnswer("2\r\n", "getXpicPreamble 1");
+}
+
+TEST_F(TerminalTest, ServicesComeBackAfterAFewRefusals)
+{
+    expectAnswer("", "loadScenario services-down");
+    for (int refusal = 0; refusal < 3; ++refusal)
+    {
+        terminal.type("getXpicPreamble 1\n");
+        EXPECT_EQ(
+            "getXpicPreamble 1\r\n"
+            "[KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE getXpicPreamble: XPIC "
+            "manager restarts\r\n"
+            "kel-node: getXpicPreamble: failed\r\n"
+            "kel-node> ",
+            withoutSourceLines(terminal.readUntil(Prompt)));
+    }
+    expectAnswer("0\r\n", "getXpicPreamble 1");
+}
+
+TEST_F(TerminalTest, AnOpenQuotationMarkIsToldAndThePromptIsThereAgain)
+{
+    expectAnswer("kel-node: line: found a quotation mark alone, expected another one that closes it\r\n",
+                 "help \"showLink");
+    expectAnswer("0\r\n", "getXpicPreamble 1");
 }
 
 TEST_F(TerminalTest, TheEndOfInputLeavesOnALineOfItsOwn)

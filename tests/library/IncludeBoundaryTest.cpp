@@ -39,12 +39,17 @@ const std::vector<Room> Rooms = {
      {"module", "platform"},
      {"src/Device/KelDebugCmd", "platform"},
      true},
+    {"wording", "node/wording", {}, NodeRoots},
     {"framework", "node/framework", {"platform"}, NodeRoots},
     {"trace", "node/trace", {"platform"}, NodeRoots},
     {"radio", "node/radio", {}, NodeRoots},
     {"services", "node/services", {"platform", "radio"}, NodeRoots},
     {"startup", "node/startup", {"module", "services", "framework", "trace", "radio", "platform"}, NodeRoots},
-    {"cli", "node/cli", {"startup", "services", "module", "platform", "framework", "trace"}, NodeRoots},
+    {"scenario", "node/scenario", {"startup", "services", "radio", "platform", "wording"}, NodeRoots},
+    {"cli",
+     "node/cli",
+     {"scenario", "startup", "services", "radio", "module", "platform", "framework", "trace", "wording"},
+     NodeRoots},
 };
 
 const fs::path Top = KEL_SOURCE_DIR;

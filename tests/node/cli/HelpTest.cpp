@@ -5,13 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include "node/cli/Command.h"
 #include "node/cli/Help.h"
-#include "node/cli/Operation.h"
+#include "node/scenario/Reference.h"
 
+using node::cli::Command;
+using node::cli::commandNamed;
 using node::cli::describe;
-using node::cli::findOperation;
-using node::cli::Operation;
-using node::cli::operations;
+using node::cli::helpOn;
 using node::cli::overview;
 
 namespace
@@ -19,12 +20,19 @@ namespace
 
 TEST(HelpTest, TheOverviewListsEverything)
 {
-    EXPECT_EQ(R"(Usage: kel-node [COMMAND [ARGUMENT...]]
+    EXPECT_EQ(R"(Usage: kel-node [OPTION...] [COMMAND [ARGUMENT...]]
 
-Runs one debug command on a simulated node. Without a command, runs those that
+Runs one command on a simulated node. Without a command, runs those that
 standard input holds, a line each, up to the first that fails.
 
-Commands:
+Options:
+  -s, --scenario NAME|FILE Start the node of that scenario
+  --clock told|wall        Let time go on when told ("advance"), as scripts do,
+                           or with the clock on the wall, as prompts do
+  -h, --help               Print this
+  --version                Print the version
+
+Debug commands:
   getCtStatus              Report status, capability and identity of a channel
   getBcmModemStatus        Report the modem's status
   getPpsCalibrationStatus  Report the calibration of the PPS output
@@ -41,12 +49,37 @@ Commands:
   getXpicPreamble          Print the XPIC preamble, 255 for an unknown one
   setXpicPreamble          Choose the XPIC preamble
   getXpicStatus            Report the status of the XPIC
+
+The link:
+  showLink                 Print the link: time, weather, every channel
+  advance                  Let time go on
+  setRain                  Turn the rain to a rate
+  setFade                  Turn the fade to a depth
+  setDistance              Move the far end
+  setTransmitter           Switch a channel's transmitters, at both ends
+  setXpicCable             Plug or unplug the XPIC cable of a channel
+  setPpsMaster             Let the far end answer PPS calibrations, or not
+  sample                   Let time go on and write a table of it (CSV)
+
+The node:
+  loadScenario             End the node and start the one of a scenario
+  listScenarios            List the ready scenarios
+  addFault                 Plan a fault of a platform call
+  listFaults               List the planned faults and how often they hit
+  clearFaults              Drop all planned faults
+  listCalls                List the platform calls that can fail
+  setTraceLevel            Choose how much trace channels let through
+  listTraceLevels          List the trace channels with their levels
+
+Everywhere:
   help [COMMAND]           Print this, or the arguments of a command
+  help scenario            Print every key of a scenario file
   exit                     Leave the prompt
 
-Numbers are decimal, or hexadecimal with 0x before them.
+Numbers are decimal, or hexadecimal with 0x before them. A word with blanks in
+it stands in double quotes.
 
-Exit status: 0 done, 1 a command failed, 2 a line was not understood,
+Exit status: 0 done, 1 a command failed, 2 a line or scenario not understood,
 3 the node did not start.
 )",
               overview());
@@ -61,107 +94,50 @@ TEST(HelpTest, TheOverviewFitsAScreenOf80Columns)
     }
 }
 
-TEST(HelpTest, EveryOperationIsDescribed)
+TEST(HelpTest, OnItsOwnWordsIsTheOverviewThatTellsThem)
 {
-    const std::vector<std::pair<std::string, std::string>> texts = {
-        {"getCtStatus", R"(getCtStatus <channel>
-Report status, capability and identity of a channel.
+    EXPECT_EQ(overview(), helpOn("help"));
+    EXPECT_EQ(overview(), helpOn("exit"));
+}
 
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"getBcmModemStatus", R"(getBcmModemStatus <channel>
-Report the modem's status.
+TEST(HelpTest, OnScenariosIsTheReferenceOfTheirKeys)
+{
+    EXPECT_EQ(node::scenario::reference(), helpOn("scenario"));
+    EXPECT_TRUE(helpOn("scenario").starts_with("# Scenario files\n"));
+}
 
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"getPpsCalibrationStatus", R"(getPpsCalibrationStatus <channel>
-Report the calibration of the PPS output.
+TEST(HelpTest, OnACommandDescribesIt)
+{
+    EXPECT_EQ(describe(commandNamed("setRain")), helpOn("setRain"));
+}
 
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"getPpsHopLengthTime", R"(getPpsHopLengthTime <channel>
-Report the time that the signal takes, in ns.
+Command made(std::vector<node::cli::Argument> arguments, const std::string& details)
+{
+    return {"command", "Does it", std::move(arguments), details, nullptr};
+}
 
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"calibratePps", R"(calibratePps <channel> <mode> <value>
-Calibrate the PPS output.
+TEST(HelpTest, ACommandWithoutArgumentsHasItsSummaryAlone)
+{
+    EXPECT_EQ("command\nDoes it.\n", describe(made({}, "")));
+}
 
-  channel  a number from 1 to 2: radio channel
-  mode     a number from -2147483648 to 2147483647: 0 coarse, 1 fine, 2 auto, 3 manual; others fail
-  value    a number from 0 to 65535: correction in ns, for mode 3
-)"},
-        {"setPpsSource", R"(setPpsSource <channel> <source> <parameter>
-Choose the source of the PPS output.
+TEST(HelpTest, OptionalArgumentsStandInBrackets)
+{
+    EXPECT_EQ("command <a> [<bcd>] [<ef>]\n"
+              "Does it.\n"
+              "\n"
+              "  a    one: first\n"
+              "  bcd  two: second\n"
+              "  ef   three: third\n",
+              describe(made(
+                  {{"a", "one", "first", false}, {"bcd", "two", "second", true}, {"ef", "three", "third", true}}, "")));
+}
 
-  channel    a number from 1 to 2: radio channel
-  source     a number from -2147483648 to 2147483647: 0, 1 or 2; others fail
-  parameter  a number from -2147483648 to 2147483647: parameter of the source
-)"},
-        {"setPpsOutputMode", R"(setPpsOutputMode <channel> <mode>
-Choose the mode of the PPS output.
-
-  channel  a number from 1 to 2: radio channel
-  mode     a number from -2147483648 to 2147483647: 0, 1 or 2; others fail
-)"},
-        {"startDpd", R"(startDpd <channel>
-Start digital predistortion.
-
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"stopDpd", R"(stopDpd <channel>
-Stop digital predistortion.
-
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"setDpdCoefficients", R"(setDpdCoefficients <channel> <coefficients>
-Write the predistortion coefficients.
-
-  channel       a number from 1 to 2: radio channel
-  coefficients  20 bytes as 40 hexadecimal digits: in the controller's own coding
-)"},
-        {"getDpdCoefficients", R"(getDpdCoefficients <channel>
-Print the predistortion coefficients.
-
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"setXpicSlaveMute", R"(setXpicSlaveMute <channel> <mute>
-Mute or unmute the XPIC slave.
-
-  channel  a number from 1 to 2: radio channel
-  mute     a number from 0 to 255: 0 unmutes, others mute
-)"},
-        {"xpicAcquireStart", R"(xpicAcquireStart <channel> <acquireMode> <acquireOption>
-Start an XPIC acquisition.
-
-  channel        a number from 1 to 2: radio channel
-  acquireMode    a number from 0 to 255: 0 to 2; others are refused
-  acquireOption  a number from 0 to 255: 0 to 3; others are refused
-)"},
-        {"getXpicPreamble", R"(getXpicPreamble <channel>
-Print the XPIC preamble, 255 for an unknown one.
-
-  channel  a number from 1 to 2: radio channel
-)"},
-        {"setXpicPreamble", R"(setXpicPreamble <channel> <preamble>
-Choose the XPIC preamble.
-
-  channel   a number from 1 to 2: radio channel
-  preamble  a number from 0 to 255: 0 to 3; others are refused
-)"},
-        {"getXpicStatus", R"(getXpicStatus <channel>
-Report the status of the XPIC.
-
-  channel  a number from 1 to 2: radio channel
-)"},
-    };
-    EXPECT_EQ(operations().size(), texts.size());
-    for (const auto& [name, text] : texts)
-    {
-        const Operation* const operation = findOperation(name);
-        ASSERT_NE(nullptr, operation) << name;
-        EXPECT_EQ(text, describe(*operation));
-    }
+TEST(HelpTest, DetailsStandLast)
+{
+    EXPECT_EQ("command\nDoes it.\n\nMore.\n", describe(made({}, "More.\n")));
+    EXPECT_EQ("command <a>\nDoes it.\n\n  a  one: first\n\nMore.\n",
+              describe(made({{"a", "one", "first", false}}, "More.\n")));
 }
 
 } // namespace

@@ -18,7 +18,7 @@ protected:
         return run(lines, Session::Lines::AtPrompt);
     }
 
-    std::string greeting = "A simulated node with two radio channels. \"help\" lists the commands, \"exit\" leaves.\n";
+    std::string greeting = "A simulated node. \"help\" lists the commands, \"exit\" leaves.\n";
 };
 
 TEST_F(PromptTest, ThePromptGreetsAndPromptsUntilTheInputEnds)
@@ -52,7 +52,7 @@ TEST_F(PromptTest, ThePromptGoesOnAfterFailures)
     EXPECT_THAT(commands.calls, ElementsAre("stopDpd(1)", "startDpd(1)"));
     EXPECT_EQ("kel-node: command: found \"nonsense\", expected one that \"help\" lists\n"
               "kel-node: stopDpd: failed\n"
-              "kel-node: stopDpd: argument 1 (channel): found \"9\", expected a number from 1 to 2\n"
+              "kel-node: stopDpd: argument 1 (channel): found \"9\", expected a whole number from 1 to 2\n"
               "kel-node: startDpd: failed\n",
               errors.str());
 }

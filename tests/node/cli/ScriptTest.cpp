@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "node/cli/Command.h"
 #include "node/cli/Help.h"
-#include "node/cli/Operation.h"
 #include "node/cli/SessionTest.h"
 
 using node::cli::Session;
@@ -60,7 +60,7 @@ TEST_F(ScriptTest, AScriptStopsAtTheFirstLineThatIsNotUnderstood)
 {
     EXPECT_EQ(Status::NotUnderstood, runScript("# first\n\nstartDpd 1\nstartDpd 3\nstopDpd 1\n"));
     EXPECT_THAT(commands.calls, ElementsAre("startDpd(1)"));
-    EXPECT_EQ("kel-node: line 4: startDpd: argument 1 (channel): found \"3\", expected a number from 1 to 2\n",
+    EXPECT_EQ("kel-node: line 4: startDpd: argument 1 (channel): found \"3\", expected a whole number from 1 to 2\n",
               errors.str());
 }
 
@@ -69,7 +69,7 @@ TEST_F(ScriptTest, AScriptStopsAtTheFirstCommandThatFails)
     commands.result = 1;
     EXPECT_EQ(Status::CommandFailed, runScript("help stopDpd\ngetCtStatus 1\nstopDpd 1\n"));
     EXPECT_THAT(commands.calls, ElementsAre("getCtStatus(1)"));
-    EXPECT_EQ(describe(*node::cli::findOperation("stopDpd")) + "the report\n", output.str());
+    EXPECT_EQ(describe(node::cli::commandNamed("stopDpd")) + "the report\n", output.str());
     EXPECT_EQ("kel-node: line 2: getCtStatus: failed\n", errors.str());
 }
 

@@ -6,8 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include "node/cli/Command.h"
 #include "node/cli/Help.h"
-#include "node/cli/Operation.h"
 #include "node/trace/TraceLibrary.h"
 
 using node::cli::Status;
@@ -80,7 +80,7 @@ TEST_F(SessionTest, HelpOfItsOwnWordsPrintsTheOverviewThatTellsThem)
 TEST_F(SessionTest, HelpOfACommandDescribesIt)
 {
     EXPECT_EQ(Status::Done, session.carryOut({"help", "setPpsSource"}));
-    EXPECT_EQ(describe(*node::cli::findOperation("setPpsSource")), output.str());
+    EXPECT_EQ(describe(node::cli::commandNamed("setPpsSource")), output.str());
 }
 
 TEST_F(SessionTest, AMessageThatACommandLeftOpenStandsBeforeItsReport)

@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include "node/cli/RecordingCommands.h"
+#include "node/cli/RecordingDesk.h"
 #include "node/cli/Session.h"
 
-/// A session of recording commands, and what it wrote.
+/// A session at a recording desk, and what it wrote.
 class SessionTest : public ::testing::Test
 {
 protected:
@@ -19,8 +19,34 @@ protected:
         return session.runLines(input, kind);
     }
 
-    RecordingCommands commands;
+    /// Carries out a line that is to be done without a complaint.
+    /// @return what it printed
+    std::string done(const std::string& line)
+    {
+        output.str("");
+        EXPECT_EQ(node::cli::Status::Done, run(line, node::cli::Session::Lines::FromScript)) << line;
+        EXPECT_EQ("", errors.str()) << line;
+        return output.str();
+    }
+
+    /// Carries out a line that is to end with that status and to print nothing.
+    /// @return what it complained of, without the program's name, the line's number and the line end
+    std::string complaint(node::cli::Status status, const std::string& line)
+    {
+        output.str("");
+        errors.str("");
+        EXPECT_EQ(status, run(line, node::cli::Session::Lines::FromScript)) << line;
+        EXPECT_EQ("", output.str()) << line;
+        const std::string text = errors.str();
+        const std::string begin = "kel-node: line 1: ";
+        EXPECT_TRUE(text.starts_with(begin) && text.ends_with('\n')) << text;
+        errors.str("");
+        return text.size() > begin.size() ? text.substr(begin.size(), text.size() - begin.size() - 1) : text;
+    }
+
+    RecordingDesk desk;
+    RecordingCommands& commands = desk.recorder;
     std::ostringstream output;
     std::ostringstream errors;
-    node::cli::Session session{commands, output, errors};
+    node::cli::Session session{desk, output, errors};
 };

@@ -1,5 +1,4 @@
 #include <cstdint>
-#include <limits>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -9,9 +8,8 @@
 
 #include "node/cli/Value.h"
 
+using node::cli::ChannelNumber;
 using node::cli::coefficientsForm;
-using node::cli::numberRange;
-using node::cli::parseChannel;
 using node::cli::parseCoefficients;
 using node::cli::parseNumberOf;
 using node::cli::printCoefficients;
@@ -101,8 +99,9 @@ TEST(ValueTest, AChannelIs1Or2)
                                    {"1.0", None}, {"1,2", None}, {"one", None}, {"257", None}, {"4294967297", None}};
     for (const Row& row : rows)
     {
-        const auto parsed = parseChannel(row.word);
-        EXPECT_EQ(row.number, parsed ? std::optional(std::int64_t{*parsed}) : std::nullopt) << '"' << row.word << '"';
+        const auto parsed = ChannelNumber::parse(row.word);
+        EXPECT_EQ(row.number, parsed ? std::optional(std::int64_t{parsed->number}) : std::nullopt)
+            << '"' << row.word << '"';
     }
 }
 
@@ -160,11 +159,9 @@ TEST(ValueTest, NumbersThatOverflowAreNotAccepted)
                      {std::string(1000, '9'), None}});
 }
 
-TEST(ValueTest, ARangeIsWorded)
+TEST(ValueTest, TheFormOfAChannelIsWorded)
 {
-    EXPECT_EQ("a number from 0 to 255", numberRange(0, 255));
-    EXPECT_EQ("a number from -2147483648 to 2147483647",
-              numberRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    EXPECT_EQ("a whole number from 1 to 2", ChannelNumber::form());
 }
 
 TEST(ValueTest, CoefficientsAreReadByteByByte)

@@ -1,0 +1,46 @@
+#include "node/cli/Desk.h"
+
+namespace node::cli
+{
+
+bool NodeDesk::hasNode() const
+{
+    return m_node != nullptr;
+}
+
+IRlbspKelApi::KelDebugCmdCallback& NodeDesk::commands()
+{
+    IRlbspKelApi::KelDebugCmdCallback* const commands = node().commands();
+    if (commands == nullptr)
+    {
+        throw startup::StartUpError("debug commands: found no callback installed, expected the module's");
+    }
+    return *commands;
+}
+
+radio::RadioLink& NodeDesk::link()
+{
+    return node().link();
+}
+
+services::FaultPlan& NodeDesk::faults()
+{
+    return node().faults();
+}
+
+void NodeDesk::start(const startup::Configuration& configuration)
+{
+    m_node.reset(); // one node runs at a time
+    m_node = std::make_unique<startup::Node>(configuration);
+}
+
+startup::Node& NodeDesk::node()
+{
+    if (m_node == nullptr)
+    {
+        throw startup::StartUpError("node: found none running, expected one; \"loadScenario\" starts one");
+    }
+    return *m_node;
+}
+
+} // namespace node::cli

@@ -1,0 +1,100 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+
+#include "node/scenario/Scenario.h"
+#include "node/wording/InputError.h"
+
+namespace fs = std::filesystem;
+
+namespace node::scenario
+{
+
+namespace
+{
+
+constexpr const char* Extension = ".toml";
+
+fs::path folder()
+{
+    const char* const chosen = std::getenv("KEL_NODE_SCENARIOS");
+    return chosen != nullptr ? chosen : KEL_SCENARIOS;
+}
+
+/// What stands where a file or a folder was to be read.
+std::string foundAt(const std::string& what, const std::error_code& reason)
+{
+    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
+    {
+        return "no such " + what;
+    }
+    if (reason == std::errc::is_a_directory)
+    {
+        return "a folder";
+    }
+    if (reason == std::errc::permission_denied)
+    {
+        return "no permission to read it";
+    }
+    return "it unreadable (" + reason.message() + ")";
+}
+
+std::string readFile(const std::string& fileName)
+{
+    errno = 0;
+    std::ifstream file(fileName, std::ios::binary);
+    std::ostringstream text;
+    if (file.peek() != std::ifstream::traits_type::eof())
+    {
+        text << file.rdbuf();
+    }
+    if (!file.is_open() || file.bad() || text.bad())
+    {
+        throw wording::InputError(fileName, foundAt("file", {errno, std::generic_category()}), "a scenario file");
+    }
+    return text.str();
+}
+
+} // namespace
+
+std::vector<std::string> readyScenarios()
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder(), error))
+    {
+        if (entry.path().extension() == Extension)
+        {
+            names.push_back(entry.path().stem().string());
+        }
+    }
+    if (error)
+    {
+        throw wording::InputError(folder().string(), foundAt("folder", error), "the folder of scenarios");
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Scenario load(const std::string& nameOrFile)
+{
+    if (nameOrFile.find('/') != std::string::npos || nameOrFile.ends_with(Extension))
+    {
+        return parse(readFile(nameOrFile), nameOrFile);
+    }
+    const std::vector<std::string> names = readyScenarios();
+    if (std::find(names.begin(), names.end(), nameOrFile) == names.end())
+    {
+        throw wording::InputError("scenario", wording::quoted(nameOrFile),
+                                  "a file, or a name that \"listScenarios\" lists" +
+                                      wording::didYouMean(nameOrFile, names));
+    }
+    const std::string fileName = (folder() / (nameOrFile + Extension)).string();
+    return parse(readFile(fileName), fileName);
+}
+
+} // namespace node::scenario
