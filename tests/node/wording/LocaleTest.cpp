@@ -5,11 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "locale/CommaLocale.h"
 #include "node/scenario/FaultKeys.h"
 #include "node/scenario/Portrait.h"
 #include "node/scenario/Reference.h"
 #include "node/scenario/ScenarioText.h"
-#include "node/wording/CommaLocale.h"
 #include "node/wording/Number.h"
 
 using ::testing::ElementsAreArray;
