@@ -1,5 +1,7 @@
 #include "node/cli/Desk.h"
 
+#include <stdexcept>
+
 namespace node::cli
 {
 
@@ -13,7 +15,7 @@ IRlbspKelApi::KelDebugCmdCallback& NodeDesk::commands()
     IRlbspKelApi::KelDebugCmdCallback* const commands = node().commands();
     if (commands == nullptr)
     {
-        throw startup::StartUpError("debug commands: found no callback installed, expected the module's");
+        throw std::runtime_error("no debug-command callback is installed");
     }
     return *commands;
 }

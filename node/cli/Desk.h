@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "node/radio/RadioLink.h"
 #include "node/services/FaultPlan.h"
@@ -23,8 +22,9 @@ public:
 
     virtual bool hasNode() const = 0;
 
-    // Each throws StartUpError where there is no node, or no way into it.
+    // Each throws StartUpError where there is no node.
 
+    /// @throws std::runtime_error where the module installed no callback
     virtual IRlbspKelApi::KelDebugCmdCallback& commands() = 0;
     virtual radio::RadioLink& link() = 0;
     virtual services::FaultPlan& faults() = 0;

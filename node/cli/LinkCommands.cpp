@@ -1,4 +1,7 @@
+#include <algorithm>
 #include <fstream>
+#include <functional>
+#include <optional>
 #include <stdexcept>
 
 #include "node/cli/Binding.h"
@@ -41,14 +44,14 @@ std::string setDistance(Desk& desk, Distance distance)
 
 /// @throws InputError for a channel that the link does not have
 void change(Desk& desk, const std::string& command, ChannelNumber channel,
-            const std::function<void(radio::Channel&)>& change)
+            const std::function<void(radio::Channel&)>& apply)
 {
     if (!desk.link().hasChannel(channel.number))
     {
         throw wording::InputError(command + ": argument 1 (channel)", std::to_string(channel.number),
                                   "1, for the node has one channel");
     }
-    desk.link().change(channel.number, change);
+    desk.link().change(channel.number, apply);
 }
 
 std::string setTransmitter(Desk& desk, ChannelNumber channel, Switch state)

@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <fnmatch.h>
 
 #include "node/cli/Binding.h"
@@ -19,12 +20,13 @@ std::string loadScenario(Desk& desk, const ScenarioName& name)
     return "";
 }
 
-/// What a scenario says of itself; of one that does not fit, what is wrong with it.
+/// The first line of what a scenario says of itself; of one that does not fit, what is wrong with it.
 std::string descriptionOf(const std::string& scenario)
 {
     try
     {
-        return scenario::load(scenario).description;
+        const std::string description = scenario::load(scenario).description;
+        return description.substr(0, description.find('\n'));
     }
     catch (const wording::InputError& error)
     {

@@ -26,11 +26,14 @@ bool Modem::fall(double snir_dB)
     {
         return false;
     }
-    while (current > lowest && snir_dB < modulation().requiredSnir_dB)
+    if (current > lowest)
     {
         --current;
     }
-    locked = snir_dB >= modulation().requiredSnir_dB;
+    else
+    {
+        locked = false;
+    }
     return true;
 }
 

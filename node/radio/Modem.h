@@ -10,7 +10,8 @@ namespace node::radio
 /// The receiver of one channel: its lock, its adaptive modulation and its count of blocks.
 struct Modem
 {
-    /// Gives up at once what the SNIR no longer carries: modulation first, at the lowest one the lock.
+    /// Gives up one step of what the SNIR no longer carries: a modulation, or at the lowest one the lock. One step, for
+    /// a lower modulation is sent with more power, and the SNIR must be measured anew.
     /// @return whether anything was given up
     bool fall(double snir_dB);
 

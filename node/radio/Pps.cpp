@@ -30,6 +30,7 @@ void Pps::fail(PpsFailure reason)
 {
     calibration = PpsCalibration::Failed;
     failure = reason;
+    coarseDone = coarseDone && reason != PpsFailure::SlaveLinkLoss;
     m_step = Step::None;
 }
 
@@ -70,10 +71,6 @@ void Pps::calibrate(PpsRequest request, std::uint16_t time_ns, const PpsSurround
 
 void Pps::fall(const PpsSurroundings& surroundings)
 {
-    if (!surroundings.locked)
-    {
-        coarseDone = false;
-    }
     if (!surroundings.locked && (running() || calibration == PpsCalibration::Auto))
     {
         fail(PpsFailure::SlaveLinkLoss);

@@ -62,13 +62,13 @@ struct Pps
 
     bool running() const;
 
-    /// The travel time as far as the calibration resolves it: to 1000 ns before any, an assumption, to a symbol after a
-    /// coarse one, to 1 ns after a fine one. The time given, after a manual one.
+    /// The travel time as far as the state of the calibration resolves it: to a symbol where the fine one is not
+    /// completed, to 1 ns where it is, otherwise to 1000 ns, an assumption. The time given, after a manual one.
     double resolve_ns(double travelTime_ns, double symbolTime_ns) const;
 
     PpsCalibration calibration = PpsCalibration::Never;
     PpsFailure failure = PpsFailure::None;
-    bool coarseDone = false; ///< since the modem locked; a fine calibration needs it
+    bool coarseDone = false; ///< a fine calibration needs it; a new coarse one and a loss of the link drop it
     std::optional<std::uint16_t> givenTime_ns;
     std::uint32_t source = 0;
     std::int32_t sourceParameter = 0;

@@ -238,16 +238,28 @@ PpsSurroundings RadioLink::ppsSurroundings(const Channel& state)
     return {state.modem.locked, state.ppsMasterAnswers, state.modem.current};
 }
 
+RadioLink::Moments RadioLink::lookAtEach() const
+{
+    Moments moments;
+    for (std::uint32_t channel = 1; channel <= m_numberOfChannels; ++channel)
+    {
+        moments.at(channel - 1) = {measure(channel).snir_dB, xpicSurroundings(channel)};
+    }
+    return moments;
+}
+
 void RadioLink::settle()
 {
     for (bool fell = true; fell;)
     {
         fell = false;
+        const Moments moments = lookAtEach();
         for (std::uint32_t channel = 1; channel <= m_numberOfChannels; ++channel)
         {
             Channel& state = at(channel);
-            const bool modemFell = state.modem.fall(measure(channel).snir_dB);
-            const bool xpicFell = state.xpic.fall(xpicSurroundings(channel));
+            const Moment& moment = moments.at(channel - 1);
+            const bool modemFell = state.modem.fall(moment.snir_dB);
+            const bool xpicFell = state.xpic.fall(moment.xpic);
             m_errored.at(channel - 1) |= modemFell;
             fell = fell || modemFell || xpicFell;
         }
@@ -264,6 +276,7 @@ void RadioLink::tick()
     ++m_time;
     m_tremor.move();
     settle();
+    const Moments before = lookAtEach();
     for (std::uint32_t channel = 1; channel <= m_numberOfChannels; ++channel)
     {
         Channel& state = at(channel);
@@ -271,8 +284,12 @@ void RadioLink::tick()
         {
             state.dpd.adapt();
         }
-        state.xpic.acquire(xpicSurroundings(channel));
-        state.modem.rise(measure(channel).snir_dB);
+        state.xpic.acquire(before.at(channel - 1).xpic);
+    }
+    const Moments healed = lookAtEach();
+    for (std::uint32_t channel = 1; channel <= m_numberOfChannels; ++channel)
+    {
+        at(channel).modem.rise(healed.at(channel - 1).snir_dB);
     }
     settle();
     for (std::uint32_t channel = 1; channel <= m_numberOfChannels; ++channel)

@@ -131,7 +131,19 @@ private:
     XpicSurroundings xpicSurroundings(std::uint32_t channel) const;
     static PpsSurroundings ppsSurroundings(const Channel& state);
 
-    /// Lets everything give up what no longer holds, until all that is left does.
+    /// What a channel goes by when it changes.
+    struct Moment
+    {
+        double snir_dB = 0;
+        XpicSurroundings xpic;
+    };
+
+    using Moments = std::array<Moment, LinkSetup::LargestNumberOfChannels>;
+
+    /// At every channel before any of them changes: which one comes first must not matter.
+    Moments lookAtEach() const;
+
+    /// Lets everything give up what no longer holds, step by step, until all that is left does.
     void settle();
     void tick();
 

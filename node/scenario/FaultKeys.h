@@ -15,8 +15,8 @@ namespace node::scenario
 void checkFault(const services::Fault& fault, const std::function<std::string(const std::string& key)>& placeOf);
 
 /// A fault from the words that somebody typed: the call, and "KEY=VALUE" for some of the other keys.
-/// @param words  not empty
 /// A call that is only made at the start is refused: the start is over.
+/// @param words  not empty
 /// @param place  of the words: "addFault"
 /// @throws InputError
 services::Fault typedFault(const std::vector<std::string>& words, const std::string& place);

@@ -209,7 +209,7 @@ const Keys<LinkSetup>& hopKeys()
             "Plan of paired frequencies; the near end sends in the lower half"),
         wholeKey<LinkSetup>(
             "frequency_number", [](LinkSetup& setup) -> std::uint32_t& { return setup.hop.frequencyNumber; }, {1, 40},
-            "Number of the frequency in the plan"),
+            "Number of the frequency in the plan: up to 8 at 13 GHz, 35 at 18 GHz, 40 at 23 GHz"),
         widthKey(),
         wordKey<LinkSetup>(
             "channel_1_polarisation",
@@ -238,7 +238,7 @@ const Keys<Weather>& weatherKeys()
             "How far the level trembles, as a standard deviation"),
         numberKey<Weather>(
             "scintillation_correlation_s",
-            [](Weather& weather) -> double& { return weather.scintillation.correlation_s; }, {0.1, 3600.0},
+            [](Weather& weather) -> double& { return weather.scintillation.correlation_s; }, {1.0, 3600.0},
             "How long the level remembers where it was"),
     };
     return keys;
@@ -286,7 +286,7 @@ const Keys<Channel>& channelKeys()
         coefficientsKey(),
         wordKey<Channel>(
             "xpic_state", [](Channel& c) -> radio::XpicState& { return c.xpic.state; }, xpicStates,
-            "State of the canceller at the start"),
+            "State of the canceller at the start; on a node of one channel it is idle"),
         flag(
             "xpic_cable_connected", [](Channel& c) -> bool& { return c.xpic.cableConnected; },
             "The cable brings the other channel's signal"),

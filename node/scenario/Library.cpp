@@ -22,7 +22,7 @@ constexpr const char* Extension = ".toml";
 fs::path folder()
 {
     const char* const chosen = std::getenv("KEL_NODE_SCENARIOS");
-    return chosen != nullptr ? chosen : KEL_SCENARIOS;
+    return chosen != nullptr && *chosen != '\0' ? chosen : KEL_SCENARIOS;
 }
 
 /// What stands where a file or a folder was to be read.
@@ -65,11 +65,13 @@ std::vector<std::string> readyScenarios()
 {
     std::vector<std::string> names;
     std::error_code error;
-    for (const auto& entry : fs::directory_iterator(folder(), error))
+    for (fs::directory_iterator entry(folder(), error); !error && entry != fs::directory_iterator();
+         entry.increment(error))
     {
-        if (entry.path().extension() == Extension)
+        const std::string name = entry->path().stem().string();
+        if (entry->path().extension() == Extension && !name.ends_with(Extension)) // that would be a file's name
         {
-            names.push_back(entry.path().stem().string());
+            names.push_back(name);
         }
     }
     if (error)

@@ -143,6 +143,12 @@ public:
             throw InputError(placeOf(*secondChannel, "channel.2"), "a second channel",
                              "none where node.radio_channels is 1");
         }
+        const toml::node* const secondController = root.at_path("broker.IDpdControllerSplit_2").node();
+        if (link.numberOfChannels == 1 && secondController != nullptr)
+        {
+            throw InputError(placeOf(*secondController, "broker.IDpdControllerSplit_2"),
+                             "a second channel's controller", "none where node.radio_channels is 1");
+        }
         m_scenario.description = heading.description;
         return m_scenario;
     }

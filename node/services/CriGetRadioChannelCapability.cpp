@@ -11,7 +11,7 @@ namespace kel_top_api
 namespace
 {
 
-// What the radio's frequency step and its temperatures are is assumed.
+// Assumed, as the sub-band, the duplex, the equipment classes and the two abilities below are.
 constexpr std::uint32_t Step_kHz = 250;
 constexpr std::int32_t LowestTemperature_C = -33;
 constexpr std::int32_t HighestTemperature_C = 55;

@@ -38,6 +38,14 @@ std::int32_t refusalOf(const PlatformCall& call)
 
 } // namespace
 
+FaultPlan::FaultPlan(const std::vector<Fault>& faults)
+{
+    for (const Fault& fault : faults)
+    {
+        m_faults.push_back({fault});
+    }
+}
+
 void FaultPlan::add(const Fault& fault)
 {
     const std::lock_guard lock(m_mutex);

@@ -54,6 +54,8 @@ public:
 class FaultPlan
 {
 public:
+    explicit FaultPlan(const std::vector<Fault>& faults = {});
+
     void add(const Fault& fault);
     void clear();
 

@@ -27,18 +27,6 @@ std::optional<radio::ModulationIndex> modulationOf(const kel_top_api::Modulation
     return place == all.end() ? std::nullopt : std::optional(static_cast<radio::ModulationIndex>(place - all.begin()));
 }
 
-std::optional<radio::ModulationIndex> modulationNamed(const std::string& name)
-{
-    for (const auto& row : getModulationAndCodeVector())
-    {
-        if (row.name == name)
-        {
-            return modulationOf(row);
-        }
-    }
-    return std::nullopt;
-}
-
 std::string nameOf(const radio::Modulation& modulation)
 {
     for (const auto& row : getModulationAndCodeVector())

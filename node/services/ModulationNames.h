@@ -13,9 +13,6 @@ namespace node::services
 /// The link's modulation of a row of the API's table; none for the row that names no modulation.
 std::optional<radio::ModulationIndex> modulationOf(const kel_top_api::ModulationAndCode& row);
 
-/// The link's modulation of that name; none for a name that the table does not have.
-std::optional<radio::ModulationIndex> modulationNamed(const std::string& name);
-
 /// The API's name of a modulation of the link.
 std::string nameOf(const radio::Modulation& modulation);
 

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
 
 /// The platform's calls, as the module names them, and what can be put into their answers.

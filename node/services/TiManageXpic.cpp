@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <string>
 
 #include "node/services/Answer.h"
 #include "node/services/TopApi.h"

@@ -83,15 +83,6 @@ void put(InterfaceBroker::Interfaces& entries, const Configuration& configuratio
     }
 }
 
-services::FaultPlan& plan(services::FaultPlan& faults, const Configuration& configuration)
-{
-    for (const services::Fault& fault : configuration.faults)
-    {
-        faults.add(fault);
-    }
-    return faults;
-}
-
 } // namespace
 
 Node::BrokerEntries::BrokerEntries(const Configuration& configuration, const services::ServiceContext& context,
@@ -123,8 +114,8 @@ Node::RegistrationFaults::~RegistrationFaults()
 }
 
 Node::Node(const Configuration& configuration)
-    : m_link(configuration.link), m_brokerEntries(configuration, m_context, m_boardSupport),
-      m_registrationFaults(plan(m_faults, configuration)),
+    : m_link(configuration.link), m_faults(configuration.faults),
+      m_brokerEntries(configuration, m_context, m_boardSupport), m_registrationFaults(m_faults),
       m_module(constructModule(configuration, m_nearEnd, m_modemStatus))
 {
     initialiseModules(configuration);

@@ -169,7 +169,7 @@ TEST_F(NodeDeskTest, ANodeWithoutACallbackHasALinkAndNoCommands)
 {
     expectDone("", "loadScenario " + folder.write("deaf.toml", "[node]\nruns_with_failed_modules = true\n"
                                                                "[broker]\nIRlbspKelApi = \"empty\"\n"));
-    expectComplaint(Status::NotStarted, "debug commands: found no callback installed, expected the module's",
+    expectComplaint(Status::CommandFailed, "getCtStatus: threw no debug-command callback is installed",
                     "getCtStatus 1");
     expectDone("", "advance 1");
     EXPECT_EQ("Time:            0:00:01.0", timeShown());

@@ -47,6 +47,12 @@ TEST_F(ScenarioCommandsTest, TheReadyOnesAreListedByTheAlphabet)
     EXPECT_THAT(desk.started, IsEmpty());
 }
 
+TEST_F(ScenarioCommandsTest, OneIsListedWithTheFirstLineOfItsDescription)
+{
+    folder.write("short.toml", "description = \"A short hop\\nin three\\nlines\"\n");
+    EXPECT_EQ("short                       A short hop\n", done("listScenarios"));
+}
+
 TEST_F(ScenarioCommandsTest, NoneAreListedWhereThereAreNone)
 {
     EXPECT_EQ("", done("listScenarios"));

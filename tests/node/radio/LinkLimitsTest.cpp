@@ -108,4 +108,52 @@ TEST(LinkLimitsTest, ACancellerBeginsAcquiredWithinTheReachOfItsSweep)
     EXPECT_EQ(XpicState::Acquired, RadioLink(setup).snapshot(2).state.xpic.state);
 }
 
+/// Both channels send more than a fast modulation carries: what a slower one takes off its back-off comes on top.
+LinkSetup loud()
+{
+    LinkSetup setup;
+    for (Channel& channel : setup.channels)
+    {
+        channel.transmitter.power_dBm = 24;
+    }
+    return setup;
+}
+
+TEST(LinkLimitsTest, TheLockHoldsWhereTheLowestModulationHoldsWithItsOwnPower)
+{
+    for (const double fade_dB : {46.0, 48.0, 50.0})
+    {
+        SCOPED_TRACE(fade_dB);
+        RadioLink link(loud());
+        link.turnFade(fade_dB);
+        const auto [hop, state, readings] = link.snapshot(1);
+        EXPECT_TRUE(state.modem.locked);
+        EXPECT_GE(readings.snir_dB, state.modem.modulation().requiredSnir_dB);
+        EXPECT_EQ(XpicState::Acquired, state.xpic.state);
+    }
+}
+
+TEST(LinkLimitsTest, EqualChannelsFareEqually)
+{
+    LinkSetup setup = loud();
+    setup.hop.antennaDiscrimination_dB = 15;
+    for (Channel& channel : setup.channels)
+    {
+        channel.xpic.state = XpicState::Idle;
+    }
+    RadioLink link(setup);
+    for (const double fade_dB : {0.0, 38.0, 10.0})
+    {
+        SCOPED_TRACE(fade_dB);
+        link.turnFade(fade_dB);
+        link.advance(Ticks(1));
+        const auto first = link.snapshot(1);
+        const auto second = link.snapshot(2);
+        EXPECT_EQ(first.state.modem.current, second.state.modem.current);
+        EXPECT_EQ(first.readings.snir_dB, second.readings.snir_dB);
+        link.advance(Ticks(100));
+        EXPECT_EQ(link.snapshot(1).state.modem.current, link.snapshot(2).state.modem.current);
+    }
+}
+
 } // namespace

@@ -69,12 +69,30 @@ protected:
 
 class ModemFallTest : public ModemTransitionTest
 {
+protected:
+    void fallAsFarAsItMust()
+    {
+        const std::size_t most = node::radio::modulations().size() + 1;
+        for (std::size_t steps = 0; modem.fall(GetParam().snir_dB); ++steps)
+        {
+            ASSERT_LT(steps, most);
+        }
+    }
 };
 
 TEST_P(ModemFallTest, GivesUpNoMoreThanItMust)
 {
-    modem.fall(GetParam().snir_dB);
+    fallAsFarAsItMust();
     EXPECT_EQ(GetParam().after, state());
+}
+
+TEST_P(ModemFallTest, GivesUpOneStepAtATime)
+{
+    const bool falls = GetParam().before != GetParam().after;
+    const std::size_t place = modem.current;
+    modem.fall(GetParam().snir_dB);
+    EXPECT_EQ(place - (falls && place > modem.lowest ? 1 : 0), modem.current);
+    EXPECT_EQ(GetParam().before.locked && !(falls && place == modem.lowest), modem.locked);
 }
 
 TEST_P(ModemFallTest, TellsWhetherItGaveSomethingUp)
@@ -84,7 +102,7 @@ TEST_P(ModemFallTest, TellsWhetherItGaveSomethingUp)
 
 TEST_P(ModemFallTest, ASecondFallAtTheSameSnirGivesUpNothing)
 {
-    modem.fall(GetParam().snir_dB);
+    fallAsFarAsItMust();
     EXPECT_FALSE(modem.fall(GetParam().snir_dB));
     EXPECT_EQ(GetParam().after, state());
 }

@@ -74,13 +74,21 @@ TEST(PpsCoarseTest, AFailedFineCalibrationLeavesTheCoarseOneThere)
     EXPECT_TRUE(fineStarts(pps));
 }
 
-TEST(PpsCoarseTest, ALossOfTheLockTakesTheCoarseCalibrationAway)
+TEST(PpsCoarseTest, ALossOfTheLinkTakesTheCoarseCalibrationAway)
+{
+    Pps pps = withCoarseDone();
+    pps.fall(Unlocked);
+    EXPECT_EQ(PpsFailure::SlaveLinkLoss, pps.failure);
+    EXPECT_FALSE(fineStarts(pps));
+}
+
+TEST(PpsCoarseTest, ALossOfTheLockThatDisturbsNothingLeavesItThere)
 {
     Pps pps = withCoarseDone();
     pps.calibrate(PpsRequest::Manual, 33'367, Good);
     pps.fall(Unlocked);
     EXPECT_EQ(PpsCalibration::Manual, pps.calibration);
-    EXPECT_FALSE(fineStarts(pps));
+    EXPECT_TRUE(fineStarts(pps));
 }
 
 TEST(PpsCoarseTest, ANewCoarseCalibrationTakesTheOldOneAway)

@@ -78,6 +78,10 @@ const CrossRow ChannelRows[] = {
     {"[channel.2]\ntransmitter_on = false\n[node]\nradio_channels = 1\n",
      "link.toml:1:1: channel.2: found a second channel, expected none where node.radio_channels is 1"},
     {"[node]\nradio_channels = 1\nradio_channels_told = 2\n[channel.1]\n", ""},
+    {"[node]\nradio_channels = 1\n[broker]\nIDpdControllerSplit_1 = \"empty\"\n", ""},
+    {"[node]\nradio_channels = 1\n[broker]\nIDpdControllerSplit_2 = \"empty\"\n",
+     "link.toml:4:25: broker.IDpdControllerSplit_2: found a second channel's controller, expected none where "
+     "node.radio_channels is 1"},
 };
 INSTANTIATE_TEST_SUITE_P(Channels, CrossCheckTest, ::testing::ValuesIn(ChannelRows));
 

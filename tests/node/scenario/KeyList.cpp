@@ -72,7 +72,7 @@ Rows ofHop()
 Rows ofWeather()
 {
     return {number("weather", "scintillation_deviation_dB", "0", "0", "10"),
-            number("weather", "scintillation_correlation_s", "10", "0.1", "3600"),
+            number("weather", "scintillation_correlation_s", "10", "1", "3600"),
             number("weather.rain", "at_s", "0", "0", "1000000"),
             number("weather.rain", "rate_mm_per_h", "0", "0", "250"),
             number("weather.fade", "at_s", "0", "0", "1000000"),

@@ -10,6 +10,7 @@
 #include "node/scenario/ScenarioText.h"
 
 namespace scenario = node::scenario;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -48,7 +49,7 @@ class LibraryTest : public ScenarioFolderTest
 TEST_F(LibraryTest, ReadyScenariosAreTheTomlFilesOfTheFolderSorted)
 {
     for (const std::string name :
-         {"rain.toml", "fog.toml", "clear-sky.toml", "notes.md", "toml", "dry.TOML", "a.toml~"})
+         {"rain.toml", "fog.toml", "clear-sky.toml", "notes.md", "toml", "dry.TOML", "a.toml~", "b.toml.toml"})
     {
         write(name, "");
     }
@@ -66,6 +67,12 @@ TEST_F(LibraryTest, AFolderThatIsNotThereIsRefused)
     const std::string refusal = pathOf("nowhere") + ": found no such folder, expected the folder of scenarios";
     EXPECT_EQ(refusal, scenario_text::refusalOf([] { scenario::readyScenarios(); }));
     EXPECT_EQ(refusal, refusalOf("rain"));
+}
+
+TEST_F(LibraryTest, AnEmptyVariableNamesNoFolder)
+{
+    setenv("KEL_NODE_SCENARIOS", "", 1);
+    EXPECT_THAT(scenario::readyScenarios(), Contains("clear-sky"));
 }
 
 TEST_F(LibraryTest, ANameLoadsTheReadyScenario)

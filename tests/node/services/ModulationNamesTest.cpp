@@ -8,7 +8,6 @@
 #include "node/services/ModulationNames.h"
 
 using node::radio::modulations;
-using node::services::modulationNamed;
 using node::services::modulationNames;
 using node::services::modulationOf;
 using node::services::nameOf;
@@ -37,7 +36,7 @@ TEST(ModulationNamesTest, TheLinkHasTheTablesModulationsInTheTablesOrder)
     EXPECT_THAT(modulationNames(), ElementsAreArray(namesOfTheTable()));
 }
 
-TEST(ModulationNamesTest, AModulationIsFoundUnderItsNameAndItsRow)
+TEST(ModulationNamesTest, AModulationIsFoundUnderItsRow)
 {
     for (const auto& row : getModulationAndCodeVector())
     {
@@ -45,10 +44,9 @@ TEST(ModulationNamesTest, AModulationIsFoundUnderItsNameAndItsRow)
         {
             continue;
         }
-        const auto index = modulationNamed(row.name);
+        const auto index = modulationOf(row);
         ASSERT_TRUE(index.has_value()) << row.name;
         EXPECT_EQ(row.name, nameOf(modulations()[*index]));
-        EXPECT_EQ(index, modulationOf(row)) << row.name;
     }
 }
 
@@ -79,15 +77,6 @@ TEST(ModulationNamesTest, AModulationWithoutARowIsUndefined)
 TEST(ModulationNamesTest, TheRowThatNamesNoModulationIsNoneOfTheLinks)
 {
     EXPECT_EQ(std::nullopt, modulationOf(getModulationAndCodeVector().back()));
-    EXPECT_EQ(std::nullopt, modulationNamed("UNDEFINED"));
-}
-
-TEST(ModulationNamesTest, ANameIsItsWholeSpelling)
-{
-    for (const char* const name : {"", "4096qam", "4096QAM ", "4096QAM_HEAVY", "QAM"})
-    {
-        EXPECT_EQ(std::nullopt, modulationNamed(name)) << name;
-    }
 }
 
 } // namespace
