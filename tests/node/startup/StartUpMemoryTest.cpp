@@ -20,6 +20,10 @@ namespace
 
 class StartUpMemoryTest : public MemoryRounds<::testing::TestWithParam<Failing>>
 {
+public:
+    StartUpMemoryTest(const StartUpMemoryTest&) = delete;
+    StartUpMemoryTest& operator=(const StartUpMemoryTest&) = delete;
+
 protected:
     StartUpMemoryTest() : m_before(node::framework::setAdmission([this] { ++admitted; }))
     {
@@ -30,9 +34,6 @@ protected:
     {
         node::framework::setAdmission(std::move(m_before));
     }
-
-    StartUpMemoryTest(const StartUpMemoryTest&) = delete;
-    StartUpMemoryTest& operator=(const StartUpMemoryTest&) = delete;
 
     /// Starts nodes that run out of memory and expects nothing of them afterwards.
     void expectNothingLeftOf(const Configuration& configuration)

@@ -39,6 +39,10 @@ public:
 /// Starts without a node and expects to end so, with nothing left behind.
 class NodeStartUpTest : public ::testing::Test
 {
+public:
+    NodeStartUpTest(const NodeStartUpTest&) = delete;
+    NodeStartUpTest& operator=(const NodeStartUpTest&) = delete;
+
 protected:
     using Configuration = node::startup::Configuration;
     using Entry = node::startup::BrokerEntry;
@@ -54,11 +58,8 @@ protected:
         node::framework::setAdmission(std::move(m_before));
     }
 
-    NodeStartUpTest(const NodeStartUpTest&) = delete;
-    NodeStartUpTest& operator=(const NodeStartUpTest&) = delete;
-
     /// Neither interfaces nor modules nor a link, and whoever registers is admitted as without a node.
-    void expectNothingThere()
+    void expectNothingThere() const
     {
         EXPECT_THAT(interfaces(), ::testing::IsEmpty());
         EXPECT_THAT(modules(), ::testing::IsEmpty());
