@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -59,16 +62,12 @@ const std::vector<CallRow> Rows = {
 
 TEST(PlatformCallsTest, TheseAreAllOfThem)
 {
-    std::vector<std::string> expected;
-    for (const CallRow& row : Rows)
-    {
-        expected.push_back(row.name);
-    }
-    std::vector<std::string> names;
-    for (const PlatformCall& call : platformCalls())
-    {
-        names.emplace_back(call.name);
-    }
+    std::vector<std::string_view> expected;
+    std::transform(std::begin(Rows), std::end(Rows), std::back_inserter(expected),
+                   [](const CallRow& row) -> std::string_view { return row.name; });
+    std::vector<std::string_view> names;
+    std::transform(platformCalls().begin(), platformCalls().end(), std::back_inserter(names),
+                   [](const PlatformCall& call) { return call.name; });
     EXPECT_THAT(names, ElementsAreArray(expected));
 }
 

@@ -4,7 +4,6 @@
 #include "node/startup/StartUpTest.h"
 
 using node::startup::Node;
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 namespace
