@@ -7,7 +7,6 @@
 #include "node/services/RecordText.h"
 #include "node/services/ServiceTest.h"
 
-using kel_top_api::CriGetRadioChannelStatus;
 using kel_top_api::criGetRadioChannelStatus;
 using kel_top_api::TiManageXpic;
 
