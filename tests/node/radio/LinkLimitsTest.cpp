@@ -136,23 +136,27 @@ TEST(LinkLimitsTest, TheLockHoldsWhereTheLowestModulationHoldsWithItsOwnPower)
 TEST(LinkLimitsTest, EqualChannelsFareEqually)
 {
     LinkSetup setup = loud();
-    setup.hop.antennaDiscrimination_dB = 15;
     for (Channel& channel : setup.channels)
     {
         channel.xpic.state = XpicState::Idle;
     }
-    RadioLink link(setup);
-    for (const double fade_dB : {0.0, 38.0, 10.0})
+    for (int discrimination_dB = 10; discrimination_dB <= 36; ++discrimination_dB)
     {
-        SCOPED_TRACE(fade_dB);
-        link.turnFade(fade_dB);
-        link.advance(Ticks(1));
-        const auto first = link.snapshot(1);
-        const auto second = link.snapshot(2);
-        EXPECT_EQ(first.state.modem.current, second.state.modem.current);
-        EXPECT_EQ(first.readings.snir_dB, second.readings.snir_dB);
-        link.advance(Ticks(100));
-        EXPECT_EQ(link.snapshot(1).state.modem.current, link.snapshot(2).state.modem.current);
+        setup.hop.antennaDiscrimination_dB = discrimination_dB;
+        RadioLink link(setup);
+        for (const double fade_dB : {0.0, 21.3, 38.0, 44.7, 10.0})
+        {
+            SCOPED_TRACE(::testing::Message() << "antennas " << discrimination_dB << " dB, fade " << fade_dB << " dB");
+            link.turnFade(fade_dB);
+            for (const int ticks : {0, 1, 100})
+            {
+                link.advance(Ticks(ticks));
+                const auto first = link.snapshot(1);
+                const auto second = link.snapshot(2);
+                EXPECT_EQ(first.state.modem.current, second.state.modem.current) << ticks;
+                EXPECT_EQ(first.readings.snir_dB, second.readings.snir_dB) << ticks;
+            }
+        }
     }
 }
 
