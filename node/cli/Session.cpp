@@ -1,16 +1,17 @@
 #include "node/cli/Session.h"
 
+#include <algorithm>
 #include <exception>
-#include <istream>
-#include <ostream>
+#include <fstream>
 #include <utility>
 
 #include <fmt/format.h>
 
-#include "node/cli/Command.h"
-#include "node/cli/Help.h"
-#include "node/cli/Line.h"
-#include "node/trace/TraceLibrary.h"
+#include "node/cli/Progress.h"
+#include "node/cli/Replay.h"
+#include "node/commands/Line.h"
+#include "node/reference/Help.h"
+#include "node/terminal/Interrupt.h"
 #include "node/wording/InputError.h"
 
 namespace node::cli
@@ -19,89 +20,214 @@ namespace node::cli
 namespace
 {
 
-/// @throws InputError when there are more words than `count`
-void expectEnd(const std::vector<std::string>& words, std::size_t count)
+using output::Answer;
+
+/// A command inside of a command ended as that answer says.
+class Ended : public std::exception
 {
-    if (words.size() > count)
+public:
+    Ended(Status endStatus, const std::string& whatWentWrong) : status(endStatus), error(whatWentWrong)
     {
-        throw wording::InputError(fmt::format("{}: argument {}", words.front(), count), wording::quoted(words[count]),
-                                  "nothing more");
     }
+
+    Status status;
+    std::string error;
+};
+
+/// The radio channel that a command is for.
+std::optional<RadioChannel> channelOf(const commands::Command& command, const std::vector<std::string>& words)
+{
+    if (words.empty() || command.arguments.empty() || command.arguments.front().name != "channel")
+    {
+        return std::nullopt;
+    }
+    const auto channel = commands::ChannelNumber::parse(words.front());
+    return channel ? std::optional(channel->number) : std::nullopt;
 }
 
 } // namespace
 
-Session::Session(Desk& desk, std::ostream& output, std::ostream& errors, Clock clock)
-    : m_desk(desk), m_output(output), m_errors(errors), m_clock(std::move(clock)),
-      m_lastTime(m_clock ? m_clock() : radio::Ticks(0))
+Session::Session(commands::Desk& desk, output::Output& output, Surroundings surroundings)
+    : m_desk(desk), m_surroundings(std::move(surroundings)),
+      m_lastTime(m_surroundings.clock ? m_surroundings.clock() : radio::Ticks(0)), m_output(&output),
+      m_sinkBefore(trace::setSink([this](const trace::Message& message) { receive(message); }))
 {
+    begin(m_history, desk.scenario());
+}
+
+Session::~Session()
+{
+    trace::setSink(m_sinkBefore);
+}
+
+void Session::start(const scenario::Scenario& scenario)
+{
+    m_desk.start(scenario);
+    begin(m_history, scenario);
 }
 
 Status Session::carryOut(const std::vector<std::string>& words, const std::string& place)
 {
-    return guard(place, [&] { return call(words, place); });
+    const Answer answer = perform(words, place);
+    show(answer);
+    return answer.status;
 }
 
-Status Session::guard(const std::string& place, const std::function<Status()>& step)
+Status Session::carryOutLine(const std::string& line, const std::string& place)
+{
+    Answer unread = beginAnswer(place);
+    std::vector<std::string> words;
+    guard(unread, [&] { words = commands::splitLine(line); });
+    if (unread.status != Status::Done)
+    {
+        show(unread);
+        return unread.status;
+    }
+    return words.empty() ? Status::Done : carryOut(words, place);
+}
+
+Status Session::attempt(const std::function<void()>& step)
+{
+    Answer answer = beginAnswer("");
+    guard(answer, step);
+    if (answer.status != Status::Done)
+    {
+        answer.trace = takeTrace();
+        show(answer);
+    }
+    return answer.status;
+}
+
+Answer Session::beginAnswer(const std::string& place) const
+{
+    Answer answer;
+    answer.place = place;
+    answer.time = nodeTime().value_or(radio::Ticks(0));
+    return answer;
+}
+
+void Session::show(const Answer& answer)
+{
+    const std::lock_guard lock(m_mutex); // a trace message of another thread waits meanwhile
+    m_output->show(answer);
+}
+
+Answer Session::perform(const std::vector<std::string>& words, const std::string& place)
+{
+    Answer answer = beginAnswer(place);
+    answer.command = words.front();
+    answer.arguments.assign(words.begin() + 1, words.end());
+    const int starts = m_desk.starts();
+    const commands::Command* command = nullptr;
+    guard(answer,
+          [&]
+          {
+              command = &commands::commandNamed(words.front());
+              answer.command = command->name;
+              answer.channel = channelOf(*command, answer.arguments);
+              letTimeGoOn();
+              answer.time = nodeTime().value_or(radio::Ticks(0));
+              m_now = answer.time.count();
+              answer.outcome = call(*command, answer.arguments);
+              if (answer.outcome->result != 0)
+              {
+                  answer.status = Status::CommandFailed;
+                  answer.error = command->name + ": failed";
+              }
+          });
+    // A message that the command left open belongs before whatever comes next.
+    trace::completeOpenMessage();
+    answer.trace = takeTrace();
+    if (command != nullptr && command->repeatable)
+    {
+        keep(answer, m_desk.starts() != starts);
+    }
+    std::erase_if(answer.trace, [this](const output::TimedMessage& message) { return !lets(message.message); });
+    return answer;
+}
+
+commands::Outcome Session::call(const commands::Command& command, const std::vector<std::string>& arguments)
 {
     try
     {
-        return step();
+        return command.call(m_desk, *this, arguments);
+    }
+    catch (const commands::Interrupted&)
+    {
+        m_interrupted = true;
+        m_output->interrupted();
+        throw;
+    }
+}
+
+void Session::keep(Answer& answer, bool begun)
+{
+    if (begun)
+    {
+        begin(m_history, m_desk.scenario());
+    }
+    else
+    {
+        add(m_history, answer);
+    }
+    const auto write = [&]
+    {
+        if (begun && answer.status == Status::Done)
+        {
+            m_recorder.write(m_history.beginning);
+        }
+        m_recorder.write(answer);
+    };
+    Answer unwritten;
+    guard(unwritten, write);
+    if (unwritten.status != Status::Done)
+    {
+        answer.status = std::max(answer.status, unwritten.status);
+        answer.error += (answer.error.empty() ? "" : "; ") + ("recording: " + unwritten.error);
+    }
+}
+
+void Session::guard(Answer& answer, const std::function<void()>& step)
+{
+    const auto fail = [&](Status status, const std::string& error)
+    {
+        answer.status = status;
+        answer.error = error;
+    };
+    const auto command = [&] { return answer.command.empty() ? "" : answer.command + ": "; };
+    try
+    {
+        step();
+    }
+    catch (const Ended& ended)
+    {
+        fail(ended.status, ended.error);
     }
     catch (const wording::InputError& error)
     {
-        m_errors << "kel-node: " << place << error.what() << std::endl;
-        return Status::NotUnderstood;
+        fail(Status::NotUnderstood, error.what());
     }
     catch (const startup::StartUpError& error)
     {
-        m_errors << "kel-node: " << place << error.what() << std::endl;
-        return Status::NotStarted;
+        fail(Status::NotStarted, error.what());
+    }
+    catch (const commands::CommandError& error)
+    {
+        fail(Status::CommandFailed, command() + error.what());
     }
     catch (const std::exception& error)
     {
-        trace::completeOpenMessage();
-        m_errors << "kel-node: " << place << m_command << ": threw " << error.what() << std::endl;
-        return Status::CommandFailed;
+        fail(Status::CommandFailed, command() + "threw " + error.what());
     }
 }
 
-Status Session::call(const std::vector<std::string>& words, const std::string& place)
+void Session::letTimeGoOn()
 {
-    m_command = words.front();
-    if (m_command == "exit")
-    {
-        expectEnd(words, 1);
-        m_left = true;
-        return Status::Done;
-    }
-    if (m_command == "help")
-    {
-        expectEnd(words, 2);
-        print(words.size() == 1 ? overview() : helpOn(words[1]));
-        return Status::Done;
-    }
-    const Command& command = commandNamed(m_command);
-    keepTime();
-    const Outcome outcome = command.call(m_desk, {words.begin() + 1, words.end()});
-    // A message that the command left open belongs before whatever comes next.
-    trace::completeOpenMessage();
-    print(outcome.output);
-    if (outcome.result != 0)
-    {
-        m_errors << "kel-node: " << place << command.name << ": failed" << std::endl;
-        return Status::CommandFailed;
-    }
-    return Status::Done;
-}
-
-void Session::keepTime()
-{
-    if (!m_clock)
+    if (!m_surroundings.clock)
     {
         return;
     }
-    const radio::Ticks now = m_clock();
+    const radio::Ticks now = m_surroundings.clock();
     const radio::Ticks gone = now - std::exchange(m_lastTime, now);
     if (m_desk.hasNode())
     {
@@ -109,49 +235,176 @@ void Session::keepTime()
     }
 }
 
-void Session::print(const std::string& text)
+bool Session::left() const
 {
-    m_output << text << std::flush;
-    m_lineIsOpen = !text.empty() && !text.ends_with('\n');
+    return m_left;
 }
 
-Status Session::runLines(std::istream& input, Lines kind)
+bool Session::good() const
 {
-    const bool atPrompt = kind == Lines::AtPrompt;
-    if (atPrompt)
+    return m_output->good();
+}
+
+void Session::closeLine()
+{
+    m_output->closeLine();
+}
+
+std::optional<radio::Ticks> Session::nodeTime() const
+{
+    return m_desk.hasNode() ? std::optional(m_desk.link().conditions().time) : std::nullopt;
+}
+
+const History& Session::history() const
+{
+    return m_history;
+}
+
+std::string Session::help(const std::string& topic)
+{
+    return topic.empty() ? reference::overview() : reference::helpOn(topic);
+}
+
+void Session::leave()
+{
+    m_left = true;
+}
+
+int Session::watch(const commands::Watch& watch)
+{
+    const std::unique_ptr<output::Output> view = m_output->beginWatch(watch);
+    output::Output* const before = m_output;
+    const auto direct = [this](output::Output* to)
     {
-        print("A simulated node. \"help\" lists the commands, \"exit\" leaves.\n");
-    }
-    std::string line;
-    for (int number = 1; !m_left && prompt(atPrompt) && std::getline(input, line); ++number)
+        const std::lock_guard lock(m_mutex);
+        m_output = to;
+    };
+    direct(view == nullptr ? before : view.get());
+    struct Back
     {
-        const std::string place = atPrompt ? "" : fmt::format("line {}: ", number);
-        const auto step = [&]
+        ~Back()
         {
-            const auto words = splitLine(line);
-            return words.empty() ? Status::Done : call(words, place);
-        };
-        const Status status = guard(place, step);
-        if (status != Status::Done && !atPrompt)
+            back();
+        }
+
+        std::function<void()> back;
+    };
+    const Back back{[&] { direct(before); }};
+
+    terminal::Interrupt interrupt;
+    const std::chrono::milliseconds interval = watch.interval;
+    const auto wait = [&]
+    { return m_surroundings.wait ? m_surroundings.wait(interval) : interrupt.happensWithin(interval); };
+    m_interrupted = false;
+    for (std::uint32_t round = 1;; ++round)
+    {
+        const Answer answer = perform(watch.command, "");
+        if (answer.status == Status::NotUnderstood || answer.status == Status::NotStarted)
         {
-            return status;
+            giveTraceBack(answer.trace);
+            throw Ended(answer.status, answer.error);
+        }
+        show(answer);
+        const bool last = round == watch.rounds || !m_output->good() || m_interrupted;
+        if (!last && wait())
+        {
+            m_interrupted = true;
+            m_output->interrupted();
+        }
+        if (last || m_interrupted)
+        {
+            return static_cast<int>(answer.status);
+        }
+        if (!m_surroundings.clock && m_desk.hasNode())
+        {
+            m_desk.link().advance(watch.interval);
         }
     }
-    if (atPrompt && !m_left)
-    {
-        print("\n");
-    }
-    return Status::Done;
 }
 
-bool Session::prompt(bool atPrompt)
+void Session::startRecording(const std::string& file)
 {
-    if (atPrompt)
+    m_desk.link(); // without a node there is nothing to record
+    m_recorder.start(file, m_history);
+}
+
+void Session::stopRecording()
+{
+    m_recorder.stop();
+}
+
+commands::Outcome Session::replay(const std::string& file)
+{
+    m_recorder.expectNone();
+    return cli::replay(m_desk, file, m_history);
+}
+
+void Session::filterTrace(const std::string& channels, std::int32_t level)
+{
+    const std::lock_guard lock(m_mutex);
+    m_traceView.filter(channels, level);
+}
+
+void Session::startTraceFile(const std::string& file)
+{
+    const std::lock_guard lock(m_mutex);
+    m_traceView.open(file);
+}
+
+void Session::stopTraceFile()
+{
+    const std::lock_guard lock(m_mutex);
+    m_traceView.close();
+}
+
+std::unique_ptr<std::ostream> Session::create(const std::string& file)
+{
+    if (m_surroundings.create)
     {
-        print(m_lineIsOpen ? "\nkel-node> " : "kel-node> ");
-        m_lineIsOpen = false; // whoever types ends it
+        return m_surroundings.create(file);
     }
-    return m_output.good();
+    auto output = std::make_unique<std::ofstream>(file, std::ios::binary);
+    return *output ? std::move(output) : nullptr;
+}
+
+std::unique_ptr<commands::LongRun> Session::beginLongRun()
+{
+    return std::make_unique<Progress>(m_surroundings.progress);
+}
+
+terminal::Size Session::size()
+{
+    return m_surroundings.size ? m_surroundings.size() : terminal::Size();
+}
+
+void Session::receive(const trace::Message& message)
+{
+    const std::lock_guard lock(m_mutex);
+    const output::TimedMessage timed{radio::Ticks(m_now), message};
+    m_trace.push_back(timed);
+    if (m_traceView.lets(message))
+    {
+        m_output->trace(timed);
+        m_traceView.write(timed);
+    }
+}
+
+std::vector<output::TimedMessage> Session::takeTrace()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_trace, {});
+}
+
+void Session::giveTraceBack(const std::vector<output::TimedMessage>& messages)
+{
+    const std::lock_guard lock(m_mutex);
+    m_trace.insert(m_trace.begin(), messages.begin(), messages.end());
+}
+
+bool Session::lets(const trace::Message& message) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_traceView.lets(message);
 }
 
 } // namespace node::cli

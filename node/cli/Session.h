@@ -1,67 +1,135 @@
 #pragma once
 
+#include <atomic>
+#include <chrono>
 #include <functional>
 #include <iosfwd>
+#include <memory>
+#include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "node/cli/Desk.h"
+#include "node/cli/Recording.h"
+#include "node/commands/Command.h"
+#include "node/commands/Desk.h"
+#include "node/output/Output.h"
+#include "node/output/TraceView.h"
 #include "node/radio/Time.h"
+#include "node/terminal/Screen.h"
 
 namespace node::cli
 {
 
-/// Exit status of the program.
-enum class Status : int
+using output::Status;
+
+/// What a session has around it. Each may be left out.
+struct Surroundings
 {
-    Done = 0,
-    CommandFailed = 1,
-    NotUnderstood = 2,
-    NotStarted = 3,
+    /// A clock that moves by itself: reads the time since any moment. It lets the link's time go on before each
+    /// command; without one, time moves when it is told to.
+    std::function<radio::Ticks()> clock;
+
+    /// Waits that long, or until Ctrl-C comes; answers whether it came. Without it, that is what a watch does.
+    std::function<bool(std::chrono::milliseconds)> wait;
+
+    /// Makes a file to write into, or answers null. Without it, files are made.
+    std::function<std::unique_ptr<std::ostream>(const std::string& file)> create;
+
+    std::function<terminal::Size()> size; ///< of the terminal; without it, 80 by 24
+    std::ostream* progress = nullptr;     ///< a terminal where progress is drawn
 };
 
-/// Carries out commands: what they print goes to one stream, what went wrong to the other.
-class Session
+/// Carries out commands. While it exists, trace messages go to its output.
+///
+/// One exists at a time, but for one that replays a recording. Used by one thread; trace messages come from any.
+class Session : public commands::Console
 {
 public:
-    /// A clock that moves by itself. Reads the time since any moment.
-    using Clock = std::function<radio::Ticks()>;
+    /// @param desk, output  borrowed; they outlive the session
+    Session(commands::Desk& desk, output::Output& output, Surroundings surroundings = {});
+    ~Session() override;
 
-    /// @param desk   borrowed, as the streams are; outlives the session
-    /// @param clock  lets the link's time go on before each command; without one, time moves when it is told to
-    Session(Desk& desk, std::ostream& output, std::ostream& errors, Clock clock = nullptr);
+    /// Ends the node that runs and starts another one. @throws StartUpError
+    void start(const scenario::Scenario& scenario);
 
-    /// Carries out one command.
+    /// Carries out one command and shows its answer.
     /// @param words  the command's name and its arguments
-    /// @param place  where the words stand, to begin an error with: "" or "line 3: "
+    /// @param place  where the words stand, to begin an error with: "" or "faults.txt:3"
     Status carryOut(const std::vector<std::string>& words, const std::string& place = "");
 
-    /// Where lines come from: a file or pipe, whose first failing line ends the session, or a person at a prompt.
-    enum class Lines
-    {
-        FromScript,
-        AtPrompt,
-    };
+    /// Carries out a line; nothing when it is empty or a comment.
+    Status carryOutLine(const std::string& line, const std::string& place = "");
 
-    /// Carries out line after line until the input ends or a line says "exit".
-    Status runLines(std::istream& input, Lines kind);
+    /// Takes a step that is no command, such as to start the node; shows what goes wrong.
+    Status attempt(const std::function<void()>& step);
+
+    /// Lets the link's time go on by what the clock has moved.
+    void letTimeGoOn();
+
+    /// Whether "exit" was said.
+    bool left() const;
+
+    /// Whether all could be written so far.
+    bool good() const;
+
+    /// Ends the line that was printed last.
+    void closeLine();
+
+    /// Of the node that runs; none without one.
+    std::optional<radio::Ticks> nodeTime() const;
+
+    /// The commands since the node began.
+    const History& history() const;
+
+    // commands::Console
+    std::string help(const std::string& topic) override;
+    void leave() override;
+    int watch(const commands::Watch& watch) override;
+    void startRecording(const std::string& file) override;
+    void stopRecording() override;
+    commands::Outcome replay(const std::string& file) override;
+    void filterTrace(const std::string& channels, std::int32_t level) override;
+    void startTraceFile(const std::string& file) override;
+    void stopTraceFile() override;
+    std::unique_ptr<std::ostream> create(const std::string& file) override;
+    std::unique_ptr<commands::LongRun> beginLongRun() override;
+    terminal::Size size() override;
 
 private:
-    /// Carries out `step`; words what it throws.
-    Status guard(const std::string& place, const std::function<Status()>& step);
-    Status call(const std::vector<std::string>& words, const std::string& place);
-    void keepTime();
-    void print(const std::string& text);
-    bool prompt(bool atPrompt);
+    output::Answer beginAnswer(const std::string& place) const;
+    output::Answer perform(const std::vector<std::string>& words, const std::string& place);
+    commands::Outcome call(const commands::Command& command, const std::vector<std::string>& arguments);
+    void show(const output::Answer& answer);
 
-    Desk& m_desk;
-    std::ostream& m_output;
-    std::ostream& m_errors;
-    Clock m_clock;
-    std::string m_command;      ///< that was called last
+    /// Keeps the command for recordings.
+    /// @param begun  by the command, a node
+    void keep(output::Answer& answer, bool begun);
+
+    /// Takes a step and notes in the answer what goes wrong.
+    static void guard(output::Answer& answer, const std::function<void()>& step);
+    void receive(const trace::Message& message);
+    std::vector<output::TimedMessage> takeTrace();
+
+    /// Lets the next answer have what takeTrace() has taken.
+    void giveTraceBack(const std::vector<output::TimedMessage>& messages);
+    bool lets(const trace::Message& message) const;
+
+    commands::Desk& m_desk;
+    Surroundings m_surroundings;
     radio::Ticks m_lastTime{0}; ///< of the clock
     bool m_left = false;        ///< "exit" was said
-    bool m_lineIsOpen = false;  ///< what was printed last did not end its line
+    bool m_interrupted = false; ///< Ctrl-C ended a command, since a watch began
+    History m_history;
+    Recorder m_recorder;
+
+    // What trace messages meet, from whichever thread.
+    mutable std::mutex m_mutex;
+    output::Output* m_output;
+    output::TraceView m_traceView;
+    std::vector<output::TimedMessage> m_trace; ///< since the last answer
+    std::atomic<radio::Ticks::rep> m_now = 0;  ///< of the node, when the command began
+    trace::Sink m_sinkBefore;
 };
 
 } // namespace node::cli

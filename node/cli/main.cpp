@@ -1,135 +1,242 @@
+#include <cerrno>
 #include <chrono>
-#include <cstdio>
+#include <clocale>
+#include <csignal>
 #include <exception>
+#include <fstream>
 #include <iostream>
+#include <memory>
 #include <optional>
-#include <string>
-#include <vector>
+#include <system_error>
 
-#include <getopt.h>
 #include <unistd.h>
 
-#include "node/cli/Desk.h"
-#include "node/cli/Help.h"
+#include "node/cli/Options.h"
+#include "node/cli/Prompt.h"
+#include "node/cli/Script.h"
 #include "node/cli/Session.h"
-#include "node/scenario/Scenario.h"
+#include "node/commands/Desk.h"
+#include "node/output/JsonOutput.h"
+#include "node/reference/Completion.h"
+#include "node/reference/Help.h"
+#include "node/terminal/LineEditor.h"
+#include "node/terminal/Screen.h"
 #include "node/wording/InputError.h"
 
 namespace
 {
 
+using node::cli::Options;
 using node::cli::Session;
 using node::cli::Status;
+using node::output::Output;
+using node::terminal::LineEditor;
 using node::wording::InputError;
-using node::wording::quoted;
-
-struct Options
-{
-    bool help = false;
-    bool version = false;
-    node::startup::Configuration node;
-    std::optional<bool> clockOnTheWall;
-    std::vector<std::string> words; ///< of the command
-};
-
-bool parseClock(const std::string& word)
-{
-    if (word != "wall" && word != "told")
-    {
-        throw InputError("option --clock", quoted(word), "told or wall");
-    }
-    return word == "wall";
-}
-
-Options parseOptions(int argc, char** argv)
-{
-    const option options[] = {
-        {"clock", required_argument, nullptr, 'c'},
-        {"help", no_argument, nullptr, 'h'},
-        {"scenario", required_argument, nullptr, 's'},
-        {"version", no_argument, nullptr, 'V'},
-        {},
-    };
-    opterr = 0;
-    Options parsed;
-    for (;;)
-    {
-        const std::string word = optind < argc ? argv[optind] : "";
-        // "+": what follows the command is the command's, negative numbers among it. ":": a missing value has its own
-        // answer.
-        switch (getopt_long(argc, argv, "+:hs:", options, nullptr))
-        {
-        case -1:
-            parsed.words.assign(argv + optind, argv + argc);
-            return parsed;
-        case 'c':
-            parsed.clockOnTheWall = parseClock(optarg);
-            break;
-        case 'h':
-            parsed.help = true;
-            break;
-        case 's':
-            parsed.node = node::scenario::load(optarg).configuration;
-            break;
-        case 'V':
-            parsed.version = true;
-            break;
-        case ':':
-            throw InputError("option " + word, "nothing", "a value");
-        default:
-            throw InputError("option", quoted(word), "one that \"kel-node --help\" lists");
-        }
-    }
-}
 
 node::radio::Ticks wallClock()
 {
     return std::chrono::floor<node::radio::Ticks>(std::chrono::steady_clock::now().time_since_epoch());
 }
 
-Status runCommands(const Options& options)
+node::terminal::Size screenSize()
 {
-    node::cli::NodeDesk desk;
-    const bool needsNode = options.words.empty() || options.words.front() != "help";
-    if (needsNode)
+    return node::terminal::sizeOf(STDOUT_FILENO);
+}
+
+node::output::Look look()
+{
+    return {node::terminal::hasColours(STDOUT_FILENO), node::terminal::hasColours(STDERR_FILENO),
+            node::terminal::canRedraw(STDOUT_FILENO), screenSize,
+            isatty(STDOUT_FILENO) != 0 && isatty(STDERR_FILENO) != 0};
+}
+
+/// How a person types lines; none without a terminal to type them on.
+struct Typist
+{
+    node::cli::ReadLine read;
+    std::unique_ptr<LineEditor> editor; ///< null where what is printed does not go to a terminal
+};
+
+/// Lines as the terminal itself lets them be typed.
+LineEditor::Typed readPlain(const std::string& prompt)
+{
+    std::cerr << prompt << std::flush;
+    std::string line;
+    if (!std::getline(std::cin, line))
     {
-        desk.start(options.node);
+        std::cerr << std::endl; // the prompt stands there
+        return {};
     }
-    const bool atPrompt = options.words.empty() && isatty(STDIN_FILENO) != 0;
-    const bool byWall = options.clockOnTheWall.value_or(atPrompt);
-    Session session(desk, std::cout, std::cerr, byWall ? wallClock : Session::Clock());
+    return {LineEditor::Ending::Line, line};
+}
+
+std::optional<Typist> makeTypist(const Options& options)
+{
+    if (!options.words.empty() || options.file || isatty(STDIN_FILENO) == 0)
+    {
+        return std::nullopt;
+    }
+    if (isatty(STDOUT_FILENO) == 0)
+    {
+        return Typist{readPlain, nullptr};
+    }
+    const std::string folder = node::terminal::stateFolder("kel-node");
+    Typist typist;
+    typist.editor =
+        std::make_unique<LineEditor>(node::terminal::Helper{node::reference::complete, node::reference::explain},
+                                     folder.empty() ? "" : folder + "/history");
+    typist.read = [editor = typist.editor.get()](const std::string& prompt) { return editor->read(prompt); };
+    return typist;
+}
+
+std::unique_ptr<Output> makeOutput(bool json, LineEditor* editor)
+{
+    if (json)
+    {
+        return std::make_unique<node::output::JsonOutput>(std::cout);
+    }
+    if (editor != nullptr && isatty(STDERR_FILENO) != 0)
+    {
+        return std::make_unique<node::cli::PromptOutput>(std::cout, std::cerr, look(), *editor);
+    }
+    return std::make_unique<node::output::TextOutput>(std::cout, std::cerr, look());
+}
+
+Status runFile(Session& session, const Options& options)
+{
+    const auto atFailure = options.keepGoing ? node::cli::AtFailure::GoOn : node::cli::AtFailure::Stop;
+    const std::string name = options.file.value_or("-");
+    if (name == "-")
+    {
+        return node::cli::runScript(session, std::cin, "<stdin>", atFailure);
+    }
+    std::ifstream file(name, std::ios::binary);
+    if (!file)
+    {
+        throw InputError(name, node::wording::foundInsteadOf("file", {errno, std::generic_category()}),
+                         "a file of commands");
+    }
+    return node::cli::runScript(session, file, name, atFailure);
+}
+
+/// Carries out a command, what is typed, or a script.
+Status runCommands(Session& session, const Options& options, const std::optional<Typist>& typist)
+{
     if (!options.words.empty())
     {
         return session.carryOut(options.words);
     }
-    const Status status = session.runLines(std::cin, atPrompt ? Session::Lines::AtPrompt : Session::Lines::FromScript);
-    if (std::ferror(stdin) != 0)
+    if (typist)
     {
-        throw InputError("standard input", "it unreadable", "lines");
+        const bool colours = typist->editor != nullptr && node::terminal::hasColours(STDOUT_FILENO);
+        node::cli::runPrompt(
+            session, typist->read, [](const std::string& text) { std::cout << text << std::flush; }, colours);
+        return Status::Done;
     }
-    return status;
+    Status status = Status::Done;
+    const Status reading = session.attempt([&] { status = runFile(session, options); });
+    return reading == Status::Done ? status : reading;
+}
+
+/// Answers the options that need no node. @return whether there was one
+bool tellAboutItself(const Options& options)
+{
+    if (options.help)
+    {
+        std::cout << node::reference::overview();
+    }
+    else if (options.version)
+    {
+        std::cout << "kel-node " KEL_VERSION "\n";
+    }
+    else if (options.complete)
+    {
+        for (const std::string& word : node::reference::complete(*options.complete).words)
+        {
+            std::cout << word << '\n';
+        }
+    }
+    else
+    {
+        return false;
+    }
+    return true;
+}
+
+void prepare(Session& session, const Options& options)
+{
+    if (options.file && !options.words.empty())
+    {
+        throw InputError("option --file", "a command beside it", "one of the two");
+    }
+    const auto scenario = options.scenario ? node::scenario::load(*options.scenario) : node::scenario::Scenario();
+    if (options.trace)
+    {
+        session.filterTrace(options.trace->channels, options.trace->level);
+    }
+    if (options.traceFile)
+    {
+        session.startTraceFile(*options.traceFile);
+    }
+    const bool needsNode = options.words.empty() || options.words.front() != "help";
+    if (needsNode)
+    {
+        session.start(scenario);
+    }
+    if (options.record)
+    {
+        session.startRecording(*options.record);
+    }
 }
 
 Status runProgram(int argc, char** argv)
 {
-    const Options options = parseOptions(argc, argv);
-    if (options.help)
+    Options options;
+    std::exception_ptr mistake;
+    try
     {
-        std::cout << node::cli::overview();
+        node::cli::readOptions(argc, argv, options);
+    }
+    catch (const InputError&)
+    {
+        mistake = std::current_exception(); // told in the form that the options before it ask for
+    }
+    if (mistake == nullptr && tellAboutItself(options))
+    {
         return Status::Done;
     }
-    if (options.version)
+
+    const std::optional<Typist> typist = mistake == nullptr ? makeTypist(options) : std::nullopt;
+    const std::unique_ptr<Output> output = makeOutput(options.json, typist ? typist->editor.get() : nullptr);
+    node::commands::NodeDesk desk;
+    node::cli::Surroundings surroundings;
+    surroundings.size = screenSize;
+    surroundings.progress = node::terminal::canRedraw(STDERR_FILENO) ? &std::cerr : nullptr;
+    if (options.clockOnTheWall.value_or(typist.has_value()))
     {
-        std::cout << "kel-node " KEL_VERSION "\n";
-        return Status::Done;
+        surroundings.clock = wallClock;
     }
-    return runCommands(options);
+    Session session(desk, *output, surroundings);
+    const auto begin = [&]
+    {
+        if (mistake != nullptr)
+        {
+            std::rethrow_exception(mistake);
+        }
+        prepare(session, options);
+    };
+    const Status begun = session.attempt(begin);
+    return begun == Status::Done ? runCommands(session, options, typist) : begun;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    // Whoever reads a pipe may close it: then the program ends as others do, whatever it was started from.
+    std::signal(SIGPIPE, SIG_DFL);
+    std::setlocale(LC_CTYPE, ""); // for the letters that are typed; numbers stay as they are
+    std::ios::sync_with_stdio(false);
     try
     {
         const Status status = runProgram(argc, argv);
@@ -140,16 +247,6 @@ int main(int argc, char** argv)
             return static_cast<int>(Status::CommandFailed);
         }
         return static_cast<int>(status);
-    }
-    catch (const InputError& error)
-    {
-        std::cerr << "kel-node: " << error.what() << std::endl;
-        return static_cast<int>(Status::NotUnderstood);
-    }
-    catch (const node::startup::StartUpError& error)
-    {
-        std::cerr << "kel-node: " << error.what() << std::endl;
-        return static_cast<int>(Status::NotStarted);
     }
     catch (const std::exception& error)
     {

@@ -1,5 +1,7 @@
 #include "node/scenario/FaultKeys.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "node/scenario/Keys.h"
@@ -69,6 +71,31 @@ services::Fault typedFault(const std::vector<std::string>& words, const std::str
                          "a call that is made after the start; this one belongs into a scenario");
     }
     return fault;
+}
+
+std::vector<std::string> typedFaultChoices(const std::vector<std::string>& words)
+{
+    std::vector<std::string> choices;
+    if (words.size() <= 1)
+    {
+        for (const auto& call : services::platformCalls())
+        {
+            if (call.hasChannel) // others are made at the start alone
+            {
+                choices.emplace_back(call.name);
+            }
+        }
+        return choices;
+    }
+    for (const std::string& name : namesOf(faultKeys()))
+    {
+        const auto typed = [&](const std::string& word) { return word.starts_with(name + "="); };
+        if (name != "call" && std::none_of(words.begin() + 1, words.end() - 1, typed))
+        {
+            choices.push_back(name + "=");
+        }
+    }
+    return choices;
 }
 
 } // namespace node::scenario

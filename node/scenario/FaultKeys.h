@@ -21,4 +21,7 @@ void checkFault(const services::Fault& fault, const std::function<std::string(co
 /// @throws InputError
 services::Fault typedFault(const std::vector<std::string>& words, const std::string& place);
 
+/// What may stand for the last of the words that typedFault() reads: a call, or "KEY=" for a key that is not there yet.
+std::vector<std::string> typedFaultChoices(const std::vector<std::string>& words);
+
 } // namespace node::scenario

@@ -22,25 +22,13 @@ constexpr const char* Extension = ".toml";
 fs::path folder()
 {
     const char* const chosen = std::getenv("KEL_NODE_SCENARIOS");
-    return chosen != nullptr && *chosen != '\0' ? chosen : KEL_SCENARIOS;
-}
-
-/// What stands where a file or a folder was to be read.
-std::string foundAt(const std::string& what, const std::error_code& reason)
-{
-    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
+    if (chosen != nullptr && *chosen != '\0')
     {
-        return "no such " + what;
+        return chosen;
     }
-    if (reason == std::errc::is_a_directory)
-    {
-        return "a folder";
-    }
-    if (reason == std::errc::permission_denied)
-    {
-        return "no permission to read it";
-    }
-    return "it unreadable (" + reason.message() + ")";
+    std::error_code unknown;
+    const fs::path installed = fs::read_symlink("/proc/self/exe", unknown).parent_path() / KEL_INSTALLED_SCENARIOS;
+    return fs::is_directory(installed, unknown) ? installed : KEL_SCENARIOS;
 }
 
 std::string readFile(const std::string& fileName)
@@ -54,7 +42,8 @@ std::string readFile(const std::string& fileName)
     }
     if (!file.is_open() || file.bad() || text.bad())
     {
-        throw wording::InputError(fileName, foundAt("file", {errno, std::generic_category()}), "a scenario file");
+        throw wording::InputError(fileName, wording::foundInsteadOf("file", {errno, std::generic_category()}),
+                                  "a scenario file");
     }
     return text.str();
 }
@@ -76,7 +65,8 @@ std::vector<std::string> readyScenarios()
     }
     if (error)
     {
-        throw wording::InputError(folder().string(), foundAt("folder", error), "the folder of scenarios");
+        throw wording::InputError(folder().string(), wording::foundInsteadOf("folder", error),
+                                  "the folder of scenarios");
     }
     std::sort(names.begin(), names.end());
     return names;

@@ -347,7 +347,10 @@ Scenario parse(const std::string& text, const std::string& fileName)
         throw InputError(fmt::format("{}:{}:{}", fileName, position.line, position.column),
                          fmt::format("a mistake in the TOML ({})", reason), "TOML 1.0");
     }
-    return Reader(fileName).read(root);
+    Scenario scenario = Reader(fileName).read(root);
+    scenario.file = fileName;
+    scenario.text = text;
+    return scenario;
 }
 
 } // namespace node::scenario

@@ -13,6 +13,8 @@ struct Scenario
 {
     std::string description;
     startup::Configuration configuration;
+    std::string file; ///< that it was read from; "" for none
+    std::string text; ///< of the file
 };
 
 /// Reads a scenario from the text of a file.
@@ -26,7 +28,7 @@ Scenario parse(const std::string& text, const std::string& fileName);
 Scenario load(const std::string& nameOrFile);
 
 /// The names of the ready scenarios, sorted. They are the files of the folder that the environment variable
-/// KEL_NODE_SCENARIOS names, or of the project's own.
+/// KEL_NODE_SCENARIOS names, or those that were installed with the program, or the project's own.
 /// @throws InputError when the folder cannot be read
 std::vector<std::string> readyScenarios();
 

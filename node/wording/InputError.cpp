@@ -53,6 +53,23 @@ std::string numberRange(double lowest, double highest)
     return fmt::format("a number from {} to {}", lowest, highest);
 }
 
+std::string foundInsteadOf(const std::string& what, const std::error_code& reason)
+{
+    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
+    {
+        return "no such " + what;
+    }
+    if (reason == std::errc::is_a_directory)
+    {
+        return "a folder";
+    }
+    if (reason == std::errc::permission_denied)
+    {
+        return "no permission to read it";
+    }
+    return "it unreadable (" + reason.message() + ")";
+}
+
 std::string didYouMean(const std::string& word, const std::vector<std::string>& candidates)
 {
     std::size_t closest = std::max<std::size_t>(1, word.size() / 3) + 1;

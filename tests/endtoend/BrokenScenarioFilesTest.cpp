@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/cli/TemporaryFolder.h"
+#include "node/commands/TemporaryFolder.h"
 
 namespace
 {
@@ -44,7 +44,7 @@ TEST_P(BrokenScenarioFilesTest, EndTheScriptThatLoadsThem)
     const Finished run =
         runScript("getXpicPreamble 1\nloadScenario " + file + "\nsample 1 1 " + folder.pathOf("table.csv") + "\n");
     EXPECT_EQ("0\n", run.output);
-    EXPECT_EQ("kel-node: line 2: " + complaint, run.errors);
+    EXPECT_EQ("kel-node: <stdin>:2: " + complaint, run.errors);
     EXPECT_EQ(2, run.status);
     EXPECT_FALSE(folder.has("table.csv"));
 }

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "endtoend/Terminal.h"
+#include "terminal/Terminal.h"
 
 namespace
 {

@@ -57,7 +57,7 @@ TEST(FailingCommandsTest, EndAScriptAtTheirLine)
                                    "getXpicPreamble 1\n");
     EXPECT_EQ("", run.output);
     EXPECT_EQ(traced("xpicAcquireStart", "acquisition: found the slave muted, expected it unmuted") +
-                  "kel-node: line 4: xpicAcquireStart: failed\n",
+                  "kel-node: <stdin>:4: xpicAcquireStart: failed\n",
               withoutSourceLines(run.errors));
     EXPECT_EQ(1, run.status);
 }

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/cli/Help.h"
-#include "node/cli/TemporaryFolder.h"
+#include "node/commands/TemporaryFolder.h"
+#include "node/reference/Help.h"
 
 namespace
 {
@@ -113,7 +113,7 @@ TEST_F(ScenarioOptionTest, ListsTheScenariosOfTheChosenFolder)
 TEST(OptionsTest, HelpAndVersionComeBeforeTheNode)
 {
     const std::string scenario = "start-no-board-support";
-    EXPECT_EQ(node::cli::overview(), finish({.arguments = {"--scenario", scenario, "--help"}}).output);
+    EXPECT_EQ(node::reference::overview(), finish({.arguments = {"--scenario", scenario, "--help"}}).output);
     EXPECT_EQ("kel-node " KEL_VERSION "\n", finish({.arguments = {"--version", "--scenario", scenario}}).output);
 }
 

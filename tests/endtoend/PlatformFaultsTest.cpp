@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/cli/TemporaryFolder.h"
+#include "node/commands/TemporaryFolder.h"
 #include "node/services/PlatformCall.h"
 
 namespace
@@ -39,7 +39,7 @@ std::string dpdTraced(const std::string& function, const std::string& what)
     return traced(function, function + "(): failed to " + what + ", EDPDResult = 32768");
 }
 
-const std::string CtTrace = "[KEL.KDC.GetCtStatusDebugCmd] level 1: get failed: planned fault\n";
+const std::string CtTrace = "0:00:00.0 [KEL.KDC.GetCtStatusDebugCmd] level 1: get failed: planned fault\n";
 
 const std::vector<Row> Rows = {
     {"criCalibrateDspPps", "calibratePps 1 0 0", "", ppsTraced("calibratePps"), 1},
@@ -62,7 +62,7 @@ const std::vector<Row> Rows = {
     {"IDpdControllerSplit.setCoeffs", "setDpdCoefficients 1 0000000000000000000000000000000000000000", "",
      dpdTraced("setDpdCoefficients", "set dpd coefficients"), 1},
     {"ITiGetDspModemStatus.getDspModemStatus", "getBcmModemStatus 1", NoData,
-     "[KEL.KDC.KelDebugCmd] level 1: getBcmModemStatus failed: planned fault\n", 1},
+     "0:00:00.0 [KEL.KDC.KelDebugCmd] level 1: getBcmModemStatus failed: planned fault\n", 1},
     {"ITiGetDspModemStatus.toString", "getBcmModemStatus 1", "planned fault", "", 0},
     {"ITiManageRadioChannelNearEnd.getRadioChannelInfo", "getCtStatus 1", NoData, CtTrace, 0},
 };
@@ -81,7 +81,7 @@ TEST_P(PlatformFaultTest, RefusesItsCommand)
     const Row& row = GetParam();
     const Finished run = runScript("addFault " + row.call + "\n" + row.command + "\n");
     EXPECT_EQ(row.output, run.output);
-    EXPECT_EQ(row.trace + (row.status == 0 ? "" : "kel-node: line 2: " + commandNameOf(row) + ": failed\n"),
+    EXPECT_EQ(row.trace + (row.status == 0 ? "" : "kel-node: <stdin>:2: " + commandNameOf(row) + ": failed\n"),
               withoutSourceLines(run.errors));
     EXPECT_EQ(row.status, run.status);
 }
@@ -91,7 +91,7 @@ TEST_P(PlatformFaultTest, ThrowsThroughItsCommand)
     const Row& row = GetParam();
     const Finished run = runScript("addFault " + row.call + " throws=true \"text=it is gone\"\n" + row.command + "\n");
     EXPECT_EQ("", run.output);
-    EXPECT_EQ("kel-node: line 2: " + commandNameOf(row) + ": threw it is gone\n", run.errors);
+    EXPECT_EQ("kel-node: <stdin>:2: " + commandNameOf(row) + ": threw it is gone\n", run.errors);
     EXPECT_EQ(1, run.status);
 }
 
@@ -145,7 +145,7 @@ TEST_P(StartFaultTest, LeavesNoNodeToRunTheScript)
 
     const Finished loaded = runScript("loadScenario " + file + "\ngetXpicPreamble 1\n");
     EXPECT_EQ("", loaded.output);
-    EXPECT_EQ("kel-node: line 1: " + GetParam().complaint + "\n", loaded.errors);
+    EXPECT_EQ("kel-node: <stdin>:1: " + GetParam().complaint + "\n", loaded.errors);
     EXPECT_EQ(3, loaded.status);
 }
 
@@ -171,9 +171,10 @@ TEST(PlatformFaultsTest, AFaultOfTheStartCannotBePlannedAfterIt)
 {
     const Finished run = runScript("addFault CModuleManager.RegisterModule throws=true\n");
     EXPECT_EQ("", run.output);
-    EXPECT_EQ("kel-node: line 1: addFault: call: found \"CModuleManager.RegisterModule\", expected a call that is made "
-              "after the start; this one belongs into a scenario\n",
-              run.errors);
+    EXPECT_EQ(
+        "kel-node: <stdin>:1: addFault: call: found \"CModuleManager.RegisterModule\", expected a call that is made "
+        "after the start; this one belongs into a scenario\n",
+        run.errors);
     EXPECT_EQ(2, run.status);
 }
 
@@ -209,8 +210,8 @@ TEST(PlatformFaultsTest, AnAnswerThatIsNoRefusalChangesTheCodeAlone)
 TEST(PlatformFaultsTest, ATraceLevelOf0SilencesTheMessage)
 {
     const std::string script = "addFault criCalibrateDspPps\nsetTraceLevel KEL.KDC.KelDebugCmd ";
-    EXPECT_EQ("kel-node: line 3: calibratePps: failed\n", runScript(script + "0\ncalibratePps 1 0 0\n").errors);
-    EXPECT_EQ(ppsTraced("calibratePps") + "kel-node: line 3: calibratePps: failed\n",
+    EXPECT_EQ("kel-node: <stdin>:3: calibratePps: failed\n", runScript(script + "0\ncalibratePps 1 0 0\n").errors);
+    EXPECT_EQ(ppsTraced("calibratePps") + "kel-node: <stdin>:3: calibratePps: failed\n",
               withoutSourceLines(runScript(script + "1\ncalibratePps 1 0 0\n").errors));
 }
 

@@ -3,15 +3,19 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <iterator>
 #include <memory>
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -48,22 +52,71 @@ std::string contentOf(std::FILE* file)
     return content;
 }
 
-/// The reading end of a pipe that holds the text and is closed behind it.
-File pipeWith(const std::string& text)
+/// A pipe that a text is written into while somebody reads it.
+class FedPipe
 {
-    std::array<int, 2> ends{};
-    check(pipe2(ends.data(), O_CLOEXEC) == 0, "pipe");
-    const auto written = write(ends[1], text.data(), text.size());
-    close(ends[1]);
-    check(written == static_cast<ssize_t>(text.size()), "write");
-    return {fdopen(ends[0], "r"), std::fclose};
-}
+public:
+    explicit FedPipe(const std::string& text)
+    {
+        // Who reads it may end before all is written.
+        std::signal(SIGPIPE, SIG_IGN);
+        std::array<int, 2> ends{};
+        check(pipe2(ends.data(), O_CLOEXEC) == 0, "pipe");
+        m_readingEnd = ends[0];
+        m_writer = std::jthread(
+            [text, end = ends[1]]
+            {
+                std::size_t written = 0;
+                while (written < text.size())
+                {
+                    const auto now = write(end, text.data() + written, text.size() - written);
+                    if (now < 0)
+                    {
+                        break;
+                    }
+                    written += static_cast<std::size_t>(now);
+                }
+                close(end);
+            });
+    }
 
-int statusOf(pid_t program)
+    FedPipe(const FedPipe&) = delete;
+    FedPipe& operator=(const FedPipe&) = delete;
+
+    ~FedPipe()
+    {
+        closeReadingEnd();
+    }
+
+    int readingEnd() const
+    {
+        return m_readingEnd;
+    }
+
+    /// Whoever writes learns it.
+    void closeReadingEnd()
+    {
+        if (m_readingEnd >= 0)
+        {
+            close(std::exchange(m_readingEnd, -1));
+        }
+    }
+
+private:
+    int m_readingEnd = -1;
+    std::jthread m_writer;
+};
+
+/// Waits for the program's end.
+Finished endOf(pid_t program)
 {
     int status = 0;
-    check(waitpid(program, &status, 0) == program, "waitpid");
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    rusage used{};
+    check(wait4(program, &status, 0, &used) == program, "wait4");
+    Finished finished;
+    finished.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    finished.memory_KiB = used.ru_maxrss;
+    return finished;
 }
 
 } // namespace
@@ -82,7 +135,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
 
 Finished finish(const Run& run)
 {
-    const File input = pipeWith(run.input);
+    FedPipe input(run.input);
     const File output = temporaryFile();
     const File errors = temporaryFile();
 
@@ -90,7 +143,7 @@ Finished finish(const Run& run)
     posix_spawn_file_actions_init(&actions);
     if (run.inputFile.empty())
     {
-        posix_spawn_file_actions_adddup2(&actions, fileno(input.get()), STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&actions, input.readingEnd(), STDIN_FILENO);
     }
     else
     {
@@ -119,8 +172,8 @@ Finished finish(const Run& run)
     posix_spawn_file_actions_destroy(&actions);
     check(errno == 0, KEL_NODE);
 
-    Finished finished;
-    finished.status = statusOf(program);
+    input.closeReadingEnd(); // the program has its own
+    Finished finished = endOf(program);
     finished.output = contentOf(output.get());
     finished.errors = contentOf(errors.get());
     return finished;
@@ -142,10 +195,10 @@ Finished runScenario(const std::string& scenario, const std::string& lines)
     return finish({.arguments = {"--scenario", scenario}, .input = lines});
 }
 
-std::string traced(const std::string& function, const std::string& text)
+std::string traced(const std::string& function, const std::string& text, const std::string& time)
 {
-    return "[KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE " + function + ": " + text +
-           "\n";
+    return time + " [KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE " + function + ": " +
+           text + "\n";
 }
 
 std::string withoutSourceLines(const std::string& text)

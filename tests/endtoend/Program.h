@@ -9,13 +9,14 @@ struct Finished
     int status = -1; ///< exit status; 128 and the signal's number when a signal ended it
     std::string output;
     std::string errors;
+    long memory_KiB = 0; ///< most that it ever held
 };
 
 /// A run of kel-node with these arguments.
 struct Run
 {
     std::vector<std::string> arguments;
-    std::string input{};      ///< what it reads from a pipe; less than the pipe holds
+    std::string input{};      ///< what it reads from a pipe
     std::string inputFile{};  ///< what it reads instead, where there is one
     std::string outputFile{}; ///< where standard output goes instead of into Finished; "-" closes it
     std::vector<std::string> environment{};
@@ -37,7 +38,8 @@ Finished runScenario(const std::string& scenario, const std::string& lines);
 std::vector<char*> pointersTo(std::vector<std::string>& texts);
 
 /// The trace's line of a failure that a function of the module traces, with "LINE" for the number of its source line.
-std::string traced(const std::string& function, const std::string& text);
+/// @param time  of the node
+std::string traced(const std::string& function, const std::string& text, const std::string& time = "0:00:00.0");
 
 /// The text with "LINE" for the number of each source line, which moves as the source grows.
 std::string withoutSourceLines(const std::string& text);

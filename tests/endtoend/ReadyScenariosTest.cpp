@@ -67,14 +67,15 @@ SNIR:          44.02 dB
 DPD:           running
 XPIC:          not acquired
 )",
-        "kel-node: line 2: setXpicCable: argument 1 (channel): found 2, expected 1, for the node has one channel\n", 2},
+        "kel-node: <stdin>:2: setXpicCable: argument 1 (channel): found 2, expected 1, for the node has one channel\n",
+        2},
     Row{"one-channel", "getBcmModemStatus 2\n", "Data could not be retrieved!",
-        "[KEL.KDC.KelDebugCmd] level 1: getBcmModemStatus failed: radio channel: found 2, expected 1\n"
-        "kel-node: line 1: getBcmModemStatus: failed\n",
+        "0:00:00.0 [KEL.KDC.KelDebugCmd] level 1: getBcmModemStatus failed: radio channel: found 2, expected 1\n"
+        "kel-node: <stdin>:1: getBcmModemStatus: failed\n",
         1},
     Row{"one-channel", "xpicAcquireStart 1 0 0\n", "",
         traced("xpicAcquireStart", "acquisition: found one channel, expected the other polarisation on a second one") +
-            "kel-node: line 1: xpicAcquireStart: failed\n",
+            "kel-node: <stdin>:1: xpicAcquireStart: failed\n",
         1},
     Row{"clear-sky", "getBcmModemStatus 1\ngetBcmModemStatus 2\n",
         R"(Modem status of radio channel 1
@@ -134,22 +135,22 @@ ITiGetDspModemStatus.getDspModemStatus channel=2 text="modem driver gone" throws
 )",
         "", 0},
     Row{"services-down", "getCtStatus 2\n", "Data could not be retrieved!",
-        "[KEL.KDC.GetCtStatusDebugCmd] level 1: get failed: capability database locked\n", 0},
+        "0:00:00.0 [KEL.KDC.GetCtStatusDebugCmd] level 1: get failed: capability database locked\n", 0},
     Row{"services-down", "getXpicPreamble 1\n", "",
-        traced("getXpicPreamble", "XPIC manager restarts") + "kel-node: line 1: getXpicPreamble: failed\n", 1},
+        traced("getXpicPreamble", "XPIC manager restarts") + "kel-node: <stdin>:1: getXpicPreamble: failed\n", 1},
     Row{"services-down", "getPpsCalibrationStatus 1\n", "Data could not be retrieved!",
         traced("getPpsCalibrationStatus", "getPpsCalibrationStatus(): failed: PPS manager down") +
-            "kel-node: line 1: getPpsCalibrationStatus: failed\n",
+            "kel-node: <stdin>:1: getPpsCalibrationStatus: failed\n",
         1},
     Row{"services-down", "startDpd 1\n", "",
         traced("startDpd", "startDpd(): failed to start dpd, EDPDResult = 32772") +
-            "kel-node: line 1: startDpd: failed\n",
+            "kel-node: <stdin>:1: startDpd: failed\n",
         1},
-    Row{"services-down", "getBcmModemStatus 2\n", "", "kel-node: line 1: getBcmModemStatus: threw modem driver gone\n",
-        1},
+    Row{"services-down", "getBcmModemStatus 2\n", "",
+        "kel-node: <stdin>:1: getBcmModemStatus: threw modem driver gone\n", 1},
     Row{"start-in-part", "startDpd 1\nstartDpd 2\n", "",
         traced("onModuleInit", "onModuleInit(): Error getting interface to IDpdControllerSplit_2") +
-            "kel-node: line 2: startDpd: failed\n",
+            "kel-node: <stdin>:2: startDpd: failed\n",
         1},
     Row{"start-no-board-support", "showLink\n", "",
         traced("onModuleInit", "onModuleInit(): failed to get interface toIRlbspKelApi") +
@@ -245,7 +246,7 @@ TEST(ReadyScenariosTableTest, ServicesThatStopInTheMiddleGiveTwoGoodReports)
     const std::string report = runCommand("getCtStatus 1").output;
     const Finished run = runScenario("services-down", "getCtStatus 1\ngetCtStatus 1\ngetCtStatus 1\n");
     EXPECT_EQ(report + report + "Data could not be retrieved!", run.output);
-    EXPECT_EQ("[KEL.KDC.GetCtStatusDebugCmd] level 1: get failed: no answer from the DSP\n", run.errors);
+    EXPECT_EQ("0:00:00.0 [KEL.KDC.GetCtStatusDebugCmd] level 1: get failed: no answer from the DSP\n", run.errors);
     EXPECT_EQ(0, run.status);
 }
 

@@ -103,7 +103,7 @@ TEST(ScriptsTest, EndAtAnOpenQuotationMark)
 {
     const Finished run = runScript("getXpicPreamble 1\nhelp \"showLink\ngetXpicPreamble 2\n");
     EXPECT_EQ("0\n", run.output);
-    EXPECT_EQ("kel-node: line 2: line: found a quotation mark alone, expected another one that closes it\n",
+    EXPECT_EQ("kel-node: <stdin>:2: line: found a quotation mark alone, expected another one that closes it\n",
               run.errors);
     EXPECT_EQ(2, run.status);
 }
@@ -117,9 +117,9 @@ TEST(ScriptsTest, EndAtALineThatIsNotUnderstood)
 {
     const Finished run = runScript("getXpicPreamble 1\n# comment\ngetXpicPreamble 3\ngetXpicPreamble 2\n");
     EXPECT_EQ("0\n", run.output);
-    EXPECT_EQ(
-        "kel-node: line 3: getXpicPreamble: argument 1 (channel): found \"3\", expected a whole number from 1 to 2\n",
-        run.errors);
+    EXPECT_EQ("kel-node: <stdin>:3: getXpicPreamble: argument 1 (channel): found \"3\", expected a whole number from 1 "
+              "to 2\n",
+              run.errors);
     EXPECT_EQ(2, run.status);
 }
 

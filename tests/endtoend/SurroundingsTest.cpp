@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/cli/Help.h"
+#include "node/reference/Help.h"
 
 namespace
 {
@@ -31,7 +31,7 @@ TEST(SurroundingsTest, HelpIsPrintedWithoutANode)
     for (const char* const option : {"--help", "-h"})
     {
         const Finished run = runCommand(option);
-        EXPECT_EQ(node::cli::overview(), run.output);
+        EXPECT_EQ(node::reference::overview(), run.output);
         EXPECT_EQ("", run.errors);
         EXPECT_EQ(0, run.status);
     }
@@ -39,7 +39,7 @@ TEST(SurroundingsTest, HelpIsPrintedWithoutANode)
 
 TEST(SurroundingsTest, HelpIsACommandToo)
 {
-    EXPECT_EQ(node::cli::overview(), runCommand("help").output);
+    EXPECT_EQ(node::reference::overview(), runCommand("help").output);
     EXPECT_EQ(
         "startDpd <channel>\nStart digital predistortion.\n\n  channel  a whole number from 1 to 2: radio channel\n",
         runCommand("help startDpd").output);
@@ -85,7 +85,7 @@ TEST(SurroundingsTest, InputThatCannotBeReadIsNotAnEmptyScript)
 {
     const Finished run = finish({.arguments = {}, .inputFile = "/"});
     EXPECT_EQ("", run.output);
-    EXPECT_EQ("kel-node: standard input: found it unreadable, expected lines\n", run.errors);
+    EXPECT_EQ("kel-node: <stdin>: found it unreadable, expected lines\n", run.errors);
     EXPECT_EQ(2, run.status);
 }
 

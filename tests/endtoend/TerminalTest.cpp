@@ -1,34 +1,41 @@
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "endtoend/Terminal.h"
-#include "node/cli/TemporaryFolder.h"
+#include "node/commands/TemporaryFolder.h"
+#include "terminal/Terminal.h"
 
 namespace
 {
 
-constexpr const char* Prompt = "kel-node> ";
-
+/// A dumb terminal, where what is seen is what was written; time stands still.
 class TerminalTest : public ::testing::Test
 {
 protected:
     TerminalTest()
     {
-        EXPECT_EQ("A simulated node. \"help\" lists the commands, \"exit\" leaves.\r\n"
-                  "kel-node> ",
-                  terminal.readUntil(Prompt));
+        EXPECT_EQ("A simulated node. \"help\" lists commands, \"?\" what may come next, \"exit\" leaves.\r\n" + prompt,
+                  terminal.readUntil(prompt));
     }
 
     /// Types a line and expects what appears, up to the next prompt.
     void expectAnswer(const std::string& answer, const std::string& line)
     {
         terminal.type(line + "\n");
-        EXPECT_EQ(line + "\r\n" + answer + Prompt, terminal.readUntil(Prompt));
+        EXPECT_EQ(line + "\r\n" + answer + prompt, terminal.readUntil(prompt));
     }
 
-    Terminal terminal{{KEL_NODE}};
+    void expectEnd()
+    {
+        EXPECT_EQ("", terminal.readToTheEnd());
+        EXPECT_EQ(0, terminal.exitStatus());
+    }
+
+    TemporaryFolder home;
+    std::string prompt = "kel-node 0:00:00.0> ";
+    Terminal terminal{{KEL_NODE, "--clock", "told"}, std::vector<std::string>{"TERM=dumb", "HOME=" + home.path()}};
 };
 
 TEST_F(TerminalTest, ACommandIsAnsweredAndExitLeaves)
@@ -38,8 +45,15 @@ TEST_F(TerminalTest, ACommandIsAnsweredAndExitLeaves)
     expectAnswer("2\r\n", "getXpicPreamble 1");
     expectAnswer("", "");
     terminal.type("exit\n");
-    EXPECT_EQ("exit\r\n", terminal.readToTheEnd());
-    EXPECT_EQ(0, terminal.exitStatus());
+    EXPECT_EQ("exit\r\n", terminal.readUntil("\n"));
+    expectEnd();
+}
+
+TEST_F(TerminalTest, ThePromptTellsTheTimeOfTheNode)
+{
+    prompt = "kel-node 1:00:00.0> ";
+    expectAnswer("", "advance 1h");
+    expectAnswer("0\r\n", "getXpicPreamble 1");
 }
 
 TEST_F(TerminalTest, ThePromptIsThereAgainAfterAFailure)
@@ -48,18 +62,27 @@ TEST_F(TerminalTest, ThePromptIsThereAgainAfterAFailure)
     expectAnswer("kel-node: setPpsSource: failed\r\n", "setPpsSource 1 3 0");
     expectAnswer("0\r\n", "getXpicPreamble 1");
     terminal.type("exit\n");
-    EXPECT_EQ("exit\r\n", terminal.readToTheEnd());
-    EXPECT_EQ(0, terminal.exitStatus());
+    EXPECT_EQ("exit\r\n", terminal.readUntil("\n"));
+    expectEnd();
+}
+
+TEST_F(TerminalTest, AnErrorStandsOnALineOfItsOwn)
+{
+    expectAnswer("", "addFault tiManageXpic text=\"no answer\" calls=1");
+    expectAnswer("no answer\r\nkel-node: getXpicStatus: failed\r\n", "getXpicStatus 1");
 }
 
 TEST_F(TerminalTest, AScenarioIsLoadedAfterOneThatDidNotStart)
 {
     expectAnswer("", "setXpicPreamble 1 2");
-    const std::string line = "loadScenario start-registration-throws";
-    expectAnswer("kel-node: module KelDebugCmd: its constructor threw: registry is full\r\n", line);
+    const std::string running = prompt;
+    prompt = "kel-node (no node)> ";
+    expectAnswer("kel-node: module KelDebugCmd: its constructor threw: registry is full\r\n",
+                 "loadScenario start-registration-throws");
     const std::string noNode = "kel-node: node: found none running, expected one; \"loadScenario\" starts one\r\n";
     expectAnswer(noNode, "getXpicPreamble 1");
     expectAnswer(noNode, "showLink");
+    prompt = running;
     expectAnswer("", "loadScenario clear-sky");
     expectAnswer("0\r\n", "getXpicPreamble 1");
 }
@@ -80,13 +103,12 @@ TEST_F(TerminalTest, ServicesComeBackAfterAFewRefusals)
     for (int refusal = 0; refusal < 3; ++refusal)
     {
         terminal.type("getXpicPreamble 1\n");
-        EXPECT_EQ(
-            "getXpicPreamble 1\r\n"
-            "[KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE getXpicPreamble: XPIC "
-            "manager restarts\r\n"
-            "kel-node: getXpicPreamble: failed\r\n"
-            "kel-node> ",
-            withoutSourceLines(terminal.readUntil(Prompt)));
+        EXPECT_EQ("getXpicPreamble 1\r\n"
+                  "0:00:00.0 [KEL.KDC.KelDebugCmd] level 1, src/Device/KelDebugCmd/private/KelDebugCmd:LINE "
+                  "getXpicPreamble: XPIC manager restarts\r\n"
+                  "kel-node: getXpicPreamble: failed\r\n" +
+                      prompt,
+                  withoutSourceLines(terminal.readUntil(prompt)));
     }
     expectAnswer("0\r\n", "getXpicPreamble 1");
 }
@@ -101,8 +123,51 @@ TEST_F(TerminalTest, AnOpenQuotationMarkIsToldAndThePromptIsThereAgain)
 TEST_F(TerminalTest, TheEndOfInputLeavesOnALineOfItsOwn)
 {
     terminal.type("\x04");
-    EXPECT_EQ("\r\n", terminal.readToTheEnd());
-    EXPECT_EQ(0, terminal.exitStatus());
+    EXPECT_EQ("^D\r\n", terminal.readUntil("\n"));
+    expectEnd();
+}
+
+TEST_F(TerminalTest, CtrlCDropsTheLineAndLeavesTheNode)
+{
+    expectAnswer("", "setXpicPreamble 1 2");
+    const std::string typed = "setXpicPreamble 1 3";
+    terminal.type(typed);
+    EXPECT_EQ(typed, terminal.readUntil(typed));
+    terminal.type("\x03");
+    EXPECT_EQ("^C\r\n" + prompt, terminal.readUntil(prompt));
+    expectAnswer("2\r\n", "getXpicPreamble 1");
+}
+
+TEST_F(TerminalTest, CtrlCEndsALongCommandWithWhatIsDone)
+{
+    terminal.type("advance 100h\n");
+    EXPECT_EQ("advance 100h\r\n", terminal.readUntil("\n"));
+    terminal.type("\x03");
+    const std::string complaint = "^C\r\nkel-node: advance: interrupted\r\n";
+    EXPECT_EQ(complaint, terminal.readUntil("interrupted\r\n"));
+    prompt = "> ";
+    EXPECT_NE("kel-node 100:00:00.0> ", terminal.readUntil(prompt));
+    terminal.type("getXpicPreamble 1\n");
+    EXPECT_EQ("getXpicPreamble 1\r\n0\r\n", terminal.readUntil("0\r\n"));
+}
+
+TEST_F(TerminalTest, CtrlCEndsAWatchAndLeavesTheNode)
+{
+    expectAnswer("", "setXpicPreamble 1 2");
+    terminal.type("watch -n 100h getXpicPreamble 1\n");
+    EXPECT_EQ("watch -n 100h getXpicPreamble 1\r\n"
+              "Every 360000s: getXpicPreamble 1 at 0:00:00.0\r\n"
+              "  2\r\n",
+              terminal.readUntil("  2\r\n"));
+    terminal.type("\x03");
+    EXPECT_EQ("^C\r\n" + prompt, terminal.readUntil(prompt));
+    expectAnswer("2\r\n", "getXpicPreamble 1");
+}
+
+TEST_F(TerminalTest, ADumbTerminalGetsNoEscapeSequences)
+{
+    terminal.type("watch -n 0.1 -c 3 showLink\nnonsense\nexit\n");
+    EXPECT_EQ(std::string::npos, terminal.readToTheEnd().find('\x1B'));
 }
 
 } // namespace

@@ -3,9 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "node/cli/RecordingDesk.h"
 #include "node/cli/Session.h"
-#include "node/cli/TemporaryFolder.h"
+#include "node/commands/RecordingDesk.h"
+#include "node/commands/TemporaryFolder.h"
+#include "node/output/TextOutput.h"
 
 using node::cli::Session;
 using node::cli::Status;
@@ -20,8 +21,7 @@ class ClockTest : public ::testing::Test
 protected:
     void carryOut(const std::string& line)
     {
-        std::istringstream input(line);
-        session.runLines(input, Session::Lines::AtPrompt);
+        session.carryOutLine(line);
     }
 
     Ticks linkTime()
@@ -33,7 +33,16 @@ protected:
     RecordingDesk desk;
     std::ostringstream output;
     std::ostringstream errors;
-    Session session{desk, output, errors, [this] { return now; }};
+    node::output::TextOutput textOutput{output, errors};
+    Session session{desk, textOutput, byClock()};
+
+private:
+    node::cli::Surroundings byClock()
+    {
+        node::cli::Surroundings surroundings;
+        surroundings.clock = [this] { return now; };
+        return surroundings;
+    }
 };
 
 TEST_F(ClockTest, TimeGoesOnBeforeEachCommandByWhatTheClockMoved)
@@ -70,16 +79,25 @@ TEST_F(ClockTest, OneCarriedOutByItselfKeepsTimeToo)
     EXPECT_EQ(Ticks(9), linkTime());
 }
 
-TEST_F(ClockTest, HelpAndLinesThatAreNotUnderstoodLeaveTheTimeToTheNextCommand)
+TEST_F(ClockTest, LinesWithoutACommandLeaveTheTimeToTheNextOne)
 {
-    for (const std::string line : {"help", "help showLink", "nonsense", "# comment", "", "\"", "exit now"})
+    for (const std::string line : {"nonsense", "# comment", "", "\""})
     {
         now += Ticks(1);
         carryOut(line);
         EXPECT_EQ(Ticks(0), linkTime()) << line;
     }
     carryOut("listCalls");
-    EXPECT_EQ(Ticks(7), linkTime());
+    EXPECT_EQ(Ticks(4), linkTime());
+}
+
+TEST_F(ClockTest, TimeGoesOnWhenItIsAskedTo)
+{
+    now += Ticks(3);
+    session.letTimeGoOn();
+    EXPECT_EQ(Ticks(3), linkTime());
+    session.letTimeGoOn();
+    EXPECT_EQ(Ticks(3), linkTime());
 }
 
 TEST_F(ClockTest, ANewNodeBeginsAtZeroAndKeepsTimeFromThere)
@@ -111,7 +129,7 @@ TEST_F(ClockTest, WithoutANodeTimeIsLost)
 
 TEST_F(ClockTest, WithoutOneTimeStandsStill)
 {
-    Session told(desk, output, errors);
+    Session told(desk, textOutput);
     EXPECT_EQ(Status::Done, told.carryOut({"showLink"}));
     EXPECT_EQ(Status::Done, told.carryOut({"startDpd", "1"}));
     EXPECT_EQ(Ticks(0), linkTime());

@@ -6,8 +6,8 @@
 
 #include <gmock/gmock.h>
 
-#include "node/cli/Command.h"
-#include "node/cli/Help.h"
+#include "node/commands/Command.h"
+#include "node/reference/Help.h"
 #include "node/trace/TraceLibrary.h"
 
 using node::cli::Status;
@@ -44,11 +44,11 @@ TEST_F(SessionTest, AFailedCommandPrintsItsReportAndSaysThatItFailed)
 
 TEST_F(SessionTest, AnErrorBeginsWithItsPlace)
 {
-    EXPECT_EQ(Status::NotUnderstood, session.carryOut({"nonsense"}, "line 3: "));
+    EXPECT_EQ(Status::NotUnderstood, session.carryOut({"nonsense"}, "<stdin>:3"));
     commands.result = 1;
-    EXPECT_EQ(Status::CommandFailed, session.carryOut({"startDpd", "1"}, "line 4: "));
-    EXPECT_EQ("kel-node: line 3: command: found \"nonsense\", expected one that \"help\" lists\n"
-              "kel-node: line 4: startDpd: failed\n",
+    EXPECT_EQ(Status::CommandFailed, session.carryOut({"startDpd", "1"}, "<stdin>:4"));
+    EXPECT_EQ("kel-node: <stdin>:3: command: found \"nonsense\", expected one that \"help\" lists\n"
+              "kel-node: <stdin>:4: startDpd: failed\n",
               errors.str());
 }
 
@@ -57,30 +57,39 @@ TEST_F(SessionTest, ACommandThatThrowsFailedForThatReason)
     commands.duringCall = [] { throw std::runtime_error("the service is gone"); };
     EXPECT_EQ(Status::CommandFailed, session.carryOut({"getCtStatus", "1"}));
     commands.duringCall = [] { throw std::bad_alloc(); };
-    EXPECT_EQ(Status::CommandFailed, session.carryOut({"stopDpd", "1"}, "line 7: "));
+    EXPECT_EQ(Status::CommandFailed, session.carryOut({"stopDpd", "1"}, "<stdin>:7"));
     EXPECT_EQ("", output.str());
     EXPECT_EQ("kel-node: getCtStatus: threw the service is gone\n"
-              "kel-node: line 7: stopDpd: threw std::bad_alloc\n",
+              "kel-node: <stdin>:7: stopDpd: threw std::bad_alloc\n",
               errors.str());
 }
 
 TEST_F(SessionTest, HelpPrintsTheOverview)
 {
     EXPECT_EQ(Status::Done, session.carryOut({"help"}));
-    EXPECT_EQ(node::cli::overview(), output.str());
-}
-
-TEST_F(SessionTest, HelpOfItsOwnWordsPrintsTheOverviewThatTellsThem)
-{
-    EXPECT_EQ(Status::Done, session.carryOut({"help", "help"}));
-    EXPECT_EQ(Status::Done, session.carryOut({"help", "exit"}));
-    EXPECT_EQ(node::cli::overview() + node::cli::overview(), output.str());
+    EXPECT_EQ(node::reference::overview(), output.str());
 }
 
 TEST_F(SessionTest, HelpOfACommandDescribesIt)
 {
     EXPECT_EQ(Status::Done, session.carryOut({"help", "setPpsSource"}));
-    EXPECT_EQ(describe(node::cli::commandNamed("setPpsSource")), output.str());
+    EXPECT_EQ(node::reference::describe(node::commands::commandNamed("setPpsSource")), output.str());
+}
+
+TEST_F(SessionTest, AsksItsSurroundings)
+{
+    EXPECT_EQ(80, session.size().columns);
+    EXPECT_EQ(24, session.size().rows);
+    node::cli::Surroundings surroundings;
+    surroundings.size = [] { return node::terminal::Size{132, 50}; };
+    surroundings.create = [](const std::string& file) { return std::make_unique<std::ostringstream>(file); };
+    node::cli::Session asking(desk, textOutput, surroundings);
+    EXPECT_EQ(132, asking.size().columns);
+    EXPECT_EQ(50, asking.size().rows);
+    const auto made = asking.create("/absent/file");
+    ASSERT_NE(nullptr, made);
+    EXPECT_EQ("/absent/file", dynamic_cast<std::ostringstream&>(*made).str());
+    EXPECT_EQ(nullptr, session.create("/absent/file"));
 }
 
 TEST_F(SessionTest, AMessageThatACommandLeftOpenStandsBeforeItsReport)

@@ -1,0 +1,59 @@
+#include "node/cli/Progress.h"
+
+#include <ostream>
+#include <utility>
+
+#include <fmt/format.h>
+
+namespace node::cli
+{
+
+namespace
+{
+
+constexpr std::chrono::milliseconds BetweenLooks(20);
+constexpr std::chrono::milliseconds BeforeFirstDrawing(500);
+constexpr std::chrono::milliseconds BetweenDrawings(100);
+
+} // namespace
+
+Progress::Progress(std::ostream* screen, std::function<Clock::time_point()> now)
+    : m_screen(screen), m_now(std::move(now)), m_nextLook(m_now()), m_nextDrawing(m_nextLook + BeforeFirstDrawing)
+{
+}
+
+Progress::~Progress()
+{
+    if (m_drawn)
+    {
+        draw("");
+    }
+}
+
+void Progress::reached(double share)
+{
+    const Clock::time_point now = m_now();
+    if (now < m_nextLook)
+    {
+        return;
+    }
+    m_nextLook = now + BetweenLooks;
+    if (m_interrupt.happened())
+    {
+        throw commands::Interrupted();
+    }
+    if (m_screen != nullptr && now >= m_nextDrawing)
+    {
+        m_nextDrawing = now + BetweenDrawings;
+        draw(fmt::format("{:3.0f} %", share * 100));
+    }
+}
+
+void Progress::draw(const std::string& text)
+{
+    constexpr const char* ClearToLineEnd = "\033[K";
+    *m_screen << '\r' << text << ClearToLineEnd << std::flush;
+    m_drawn = true;
+}
+
+} // namespace node::cli

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <iosfwd>
+#include <string>
+
+#include "node/commands/Console.h"
+#include "node/terminal/Interrupt.h"
+
+namespace node::cli
+{
+
+/// A long command that Ctrl-C ends, and whose progress is drawn once it has taken a while.
+class Progress : public commands::LongRun
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// @param screen  a terminal to draw on, borrowed; null where there is none
+    /// @param now     reads the clock
+    explicit Progress(std::ostream* screen, std::function<Clock::time_point()> now = Clock::now);
+
+    /// Takes what is drawn away.
+    ~Progress() override;
+
+    void reached(double share) override;
+
+private:
+    void draw(const std::string& text);
+
+    std::ostream* m_screen;
+    std::function<Clock::time_point()> m_now;
+    terminal::Interrupt m_interrupt;
+    Clock::time_point m_nextLook;
+    Clock::time_point m_nextDrawing;
+    bool m_drawn = false;
+};
+
+} // namespace node::cli

@@ -1,0 +1,35 @@
+#include "node/cli/Script.h"
+
+#include <istream>
+
+#include <fmt/format.h>
+
+#include "node/wording/InputError.h"
+
+namespace node::cli
+{
+
+Status runScript(Session& session, std::istream& input, const std::string& name, AtFailure atFailure)
+{
+    Status first = Status::Done;
+    std::string line;
+    for (int number = 1; !session.left() && session.good() && std::getline(input, line); ++number)
+    {
+        const Status status = session.carryOutLine(line, fmt::format("{}:{}", name, number));
+        if (first == Status::Done)
+        {
+            first = status;
+        }
+        if (first != Status::Done && atFailure == AtFailure::Stop)
+        {
+            return first;
+        }
+    }
+    if (input.bad())
+    {
+        throw wording::InputError(name, "it unreadable", "lines");
+    }
+    return first;
+}
+
+} // namespace node::cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "node/output/TextOutput.h"
+
+namespace node::output
+{
+
+/// The rounds of a watch, one after the other or, at a terminal, each drawn over the one before. Lines that differ from
+/// the round before begin with '*'; where there are colours, the letters that differ are reversed.
+class WatchView : public Output
+{
+public:
+    /// @param output  that the rounds are printed to; borrowed
+    WatchView(const commands::Watch& watch, TextOutput& output, const Look& look);
+
+    /// At a terminal a round is drawn with its trace messages; elsewhere they go where they always go.
+    void trace(const TimedMessage& message) override;
+    void show(const Answer& answer) override;
+    void closeLine() override;
+    void interrupted() override;
+    bool good() const override;
+    std::unique_ptr<Output> beginWatch(const commands::Watch& watch) override;
+
+private:
+    std::string title(const Answer& answer) const;
+    std::vector<std::string> marked(const std::vector<std::string>& lines) const;
+
+    commands::Watch m_watch;
+    TextOutput& m_output;
+    Look m_look;
+    bool m_first = true;
+    std::vector<std::string> m_before; ///< lines of the round before
+};
+
+} // namespace node::output

@@ -1,0 +1,152 @@
+#include "node/terminal/Layout.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <cwctype>
+
+#include "node/terminal/Letters.h"
+
+namespace node::terminal
+{
+
+namespace
+{
+
+constexpr int TabulatorColumns = 8;
+
+/// Where letters come to stand, row by row.
+class Cursor
+{
+public:
+    explicit Cursor(int columns) : m_columns(columns)
+    {
+    }
+
+    void put(wchar_t letter)
+    {
+        if (letter == L'\n')
+        {
+            nextRow();
+        }
+        else if (letter == L'\t')
+        {
+            do
+            {
+                advance(1);
+            } while (m_column % TabulatorColumns != 0);
+        }
+        else if (std::iswprint(static_cast<std::wint_t>(letter)) != 0)
+        {
+            advance(std::max(wcwidth(letter), 0));
+        }
+        else
+        {
+            spell(letter);
+        }
+    }
+
+    int row() const
+    {
+        return m_row;
+    }
+
+private:
+    void spell(wchar_t letter)
+    {
+        const bool isControl = letter >= 0 && letter < 0x80;
+        const int signs = isControl ? 2 : letter > 0xFFFF ? 8 : 7;
+        for (int sign = 0; sign < signs; ++sign)
+        {
+            advance(1);
+        }
+    }
+
+    /// A letter that is wider than what is left of its row stands in the next one, and so does the cursor behind a full
+    /// row.
+    void advance(int width)
+    {
+        if (m_column + width > m_columns)
+        {
+            nextRow();
+        }
+        m_column += width;
+        if (m_column >= m_columns)
+        {
+            nextRow();
+        }
+    }
+
+    void nextRow()
+    {
+        ++m_row;
+        m_column = 0;
+    }
+
+    int m_columns;
+    int m_row = 0;
+    int m_column = 0;
+};
+
+int widthOf(const std::string& word)
+{
+    const std::wstring letters = toLetters(word);
+    return std::max(wcswidth(letters.c_str(), letters.size()), 0);
+}
+
+} // namespace
+
+std::wstring withoutEscapes(const std::wstring& prompt)
+{
+    std::wstring shown;
+    bool inside = false;
+    for (const wchar_t letter : prompt)
+    {
+        if (letter == EscapeMark)
+        {
+            inside = !inside;
+        }
+        else if (!inside)
+        {
+            shown += letter;
+        }
+    }
+    return shown;
+}
+
+int rowBehind(const std::wstring& shown, int columns)
+{
+    Cursor cursor(columns);
+    for (const wchar_t letter : shown)
+    {
+        cursor.put(letter);
+    }
+    return cursor.row();
+}
+
+std::string inColumns(const std::vector<std::string>& words, int columns)
+{
+    constexpr std::size_t Gap = 2;
+    std::size_t widest = 0;
+    for (const std::string& word : words)
+    {
+        widest = std::max(widest, static_cast<std::size_t>(widthOf(word)));
+    }
+    // No gap stands behind the last column.
+    const std::size_t fit = (static_cast<std::size_t>(std::max(columns, 0)) + Gap) / (widest + Gap);
+    const std::size_t abreast = std::max<std::size_t>(fit, 1);
+    const std::size_t rows = (words.size() + abreast - 1) / abreast;
+    std::string text;
+    for (std::size_t row = 0; row < rows; ++row)
+    {
+        std::size_t missing = 0;
+        for (std::size_t place = row; place < words.size(); place += rows)
+        {
+            text += std::string(missing, ' ') + words[place];
+            missing = widest + Gap - static_cast<std::size_t>(widthOf(words[place]));
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+} // namespace node::terminal
