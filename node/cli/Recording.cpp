@@ -110,17 +110,23 @@ void Recorder::stop()
 
 void Recorder::write(const Beginning& beginning)
 {
-    writeLine(toJson(beginning));
+    if (isRecording())
+    {
+        writeLine(toJson(beginning));
+    }
 }
 
 void Recorder::write(const output::Answer& answer)
 {
-    writeLine(output::toJson(answer));
+    if (isRecording())
+    {
+        writeLine(output::toJson(answer));
+    }
 }
 
 void Recorder::writeLine(const nlohmann::ordered_json& document)
 {
-    if (isRecording() && !(m_file << output::toLine(document) << std::flush))
+    if (!(m_file << output::toLine(document) << std::flush))
     {
         m_file.close();
         throw commands::CommandError(wording::quoted(m_name) + " cannot be written any more");

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "node/cli/Guard.h"
 #include "node/cli/Progress.h"
 #include "node/cli/Replay.h"
 #include "node/commands/Line.h"
@@ -21,18 +22,6 @@ namespace
 {
 
 using output::Answer;
-
-/// A command inside of a command ended as that answer says.
-class Ended : public std::exception
-{
-public:
-    Ended(Status endStatus, const std::string& whatWentWrong) : status(endStatus), error(whatWentWrong)
-    {
-    }
-
-    Status status;
-    std::string error;
-};
 
 /// The radio channel that a command is for.
 std::optional<RadioChannel> channelOf(const commands::Command& command, const std::vector<std::string>& words)
@@ -184,40 +173,6 @@ void Session::keep(Answer& answer, bool begun)
     {
         answer.status = std::max(answer.status, unwritten.status);
         answer.error += (answer.error.empty() ? "" : "; ") + ("recording: " + unwritten.error);
-    }
-}
-
-void Session::guard(Answer& answer, const std::function<void()>& step)
-{
-    const auto fail = [&](Status status, const std::string& error)
-    {
-        answer.status = status;
-        answer.error = error;
-    };
-    const auto command = [&] { return answer.command.empty() ? "" : answer.command + ": "; };
-    try
-    {
-        step();
-    }
-    catch (const Ended& ended)
-    {
-        fail(ended.status, ended.error);
-    }
-    catch (const wording::InputError& error)
-    {
-        fail(Status::NotUnderstood, error.what());
-    }
-    catch (const startup::StartUpError& error)
-    {
-        fail(Status::NotStarted, error.what());
-    }
-    catch (const commands::CommandError& error)
-    {
-        fail(Status::CommandFailed, command() + error.what());
-    }
-    catch (const std::exception& error)
-    {
-        fail(Status::CommandFailed, command() + "threw " + error.what());
     }
 }
 

@@ -105,9 +105,6 @@ private:
     /// Keeps the command for recordings.
     /// @param begun  by the command, a node
     void keep(output::Answer& answer, bool begun);
-
-    /// Takes a step and notes in the answer what goes wrong.
-    static void guard(output::Answer& answer, const std::function<void()>& step);
     void receive(const trace::Message& message);
     std::vector<output::TimedMessage> takeTrace();
 

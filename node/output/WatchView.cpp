@@ -71,53 +71,57 @@ void WatchView::trace(const TimedMessage& message)
 
 void WatchView::show(const Answer& answer)
 {
-    std::vector<std::string> lines = linesOf(answer.outcome ? answer.outcome->output : "");
-    if (!m_look.redraws)
-    {
-        Answer rest = answer;
-        rest.outcome.reset();
-        std::string round = fmt::format("{}{}\n", m_first ? "" : "\n", title(answer));
-        for (const std::string& line : marked(lines))
-        {
-            round += line + "\n";
-        }
-        m_output.print(round);
-        m_output.show(rest);
-    }
-    else
-    {
-        for (const TimedMessage& message : answer.trace)
-        {
-            lines.push_back(linesOf(traceText(message)).front());
-        }
-        const std::vector<std::string> error = linesOf(errorText(answer));
-        lines.insert(lines.end(), error.begin(), error.end());
-
-        const terminal::Size size = m_look.size ? m_look.size() : terminal::Size();
-        const auto columns = static_cast<std::size_t>(std::max(size.columns, 1));
-        const auto rows = static_cast<std::size_t>(std::max(size.rows, 3));
-        const std::size_t room = rows - 2; // a line for the title, one for the cursor
-        if (lines.size() > room)
-        {
-            const std::size_t left = lines.size() - room + 1;
-            lines.resize(room - 1);
-            lines.push_back(fmt::format("... {} more lines", left));
-        }
-        for (std::string& line : lines)
-        {
-            line = line.substr(0, columns > MarkWidth ? columns - MarkWidth : 0);
-        }
-        // Each line is cleared before it is drawn: behind its last column, a terminal would clear that column.
-        std::string frame = fmt::format("{}{}{}{}\n", Home, m_first ? ClearBelow : "", ClearToLineEnd,
-                                        title(answer).substr(0, columns));
-        for (const std::string& line : marked(lines))
-        {
-            frame += fmt::format("{}{}\n", ClearToLineEnd, line);
-        }
-        m_output.draw(frame + ClearBelow);
-    }
+    const std::vector<std::string> lines = linesOf(answer.outcome ? answer.outcome->output : "");
+    m_before = m_look.redraws ? draw(answer, lines) : print(answer, lines);
     m_first = false;
-    m_before = lines;
+}
+
+std::vector<std::string> WatchView::print(const Answer& answer, const std::vector<std::string>& lines)
+{
+    std::string round = fmt::format("{}{}\n", m_first ? "" : "\n", title(answer));
+    for (const std::string& line : marked(lines))
+    {
+        round += line + "\n";
+    }
+    m_output.print(round);
+    Answer rest = answer;
+    rest.outcome.reset();
+    m_output.show(rest);
+    return lines;
+}
+
+std::vector<std::string> WatchView::draw(const Answer& answer, std::vector<std::string> lines)
+{
+    for (const TimedMessage& message : answer.trace)
+    {
+        lines.push_back(linesOf(traceText(message)).front());
+    }
+    const std::vector<std::string> error = linesOf(errorText(answer));
+    lines.insert(lines.end(), error.begin(), error.end());
+
+    const terminal::Size size = m_look.size ? m_look.size() : terminal::Size();
+    const auto columns = static_cast<std::size_t>(std::max(size.columns, 1));
+    const auto rows = static_cast<std::size_t>(std::max(size.rows, 3));
+    const std::size_t room = rows - 2; // a line for the title, one for the cursor
+    if (lines.size() > room)
+    {
+        const std::size_t left = lines.size() - room + 1;
+        lines.resize(room - 1);
+        lines.push_back(fmt::format("... {} more lines", left));
+    }
+    for (std::string& line : lines)
+    {
+        line = line.substr(0, columns > MarkWidth ? columns - MarkWidth : 0);
+    }
+    // Each line is cleared before it is drawn: behind its last column, a terminal would clear that column.
+    std::string frame =
+        fmt::format("{}{}{}{}\n", Home, m_first ? ClearBelow : "", ClearToLineEnd, title(answer).substr(0, columns));
+    for (const std::string& line : marked(lines))
+    {
+        frame += fmt::format("{}{}\n", ClearToLineEnd, line);
+    }
+    m_output.draw(frame + ClearBelow);
+    return lines;
 }
 
 void WatchView::closeLine()

@@ -26,6 +26,10 @@ public:
     std::unique_ptr<Output> beginWatch(const commands::Watch& watch) override;
 
 private:
+    /// Each shows a round and answers its lines as they were shown.
+    std::vector<std::string> print(const Answer& answer, const std::vector<std::string>& lines);
+    std::vector<std::string> draw(const Answer& answer, std::vector<std::string> lines);
+
     std::string title(const Answer& answer) const;
     std::vector<std::string> marked(const std::vector<std::string>& lines) const;
 
