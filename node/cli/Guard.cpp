@@ -32,6 +32,11 @@ void guard(output::Answer& answer, const std::function<void()>& step)
     {
         fail(Status::NotStarted, error.what());
     }
+    catch (const commands::CutShort& error)
+    {
+        answer.cutShort = true;
+        fail(Status::CommandFailed, command() + error.what());
+    }
     catch (const commands::CommandError& error)
     {
         fail(Status::CommandFailed, command() + error.what());

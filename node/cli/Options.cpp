@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 
+#include <fmt/format.h>
 #include <getopt.h>
 
 #include "node/commands/Value.h"
@@ -21,11 +22,12 @@ using wording::quoted;
 
 bool parseClock(const std::string& word)
 {
-    if (word != "wall" && word != "told")
+    if (word != reference::WallClock && word != reference::ToldClock)
     {
-        throw InputError("option --clock", quoted(word), "told or wall");
+        throw InputError("option --clock", quoted(word),
+                         fmt::format("{} or {}", reference::ToldClock, reference::WallClock));
     }
-    return word == "wall";
+    return word == reference::WallClock;
 }
 
 /// "CHANNELS" or "CHANNELS:LEVEL"
@@ -70,6 +72,7 @@ void readOptions(int argc, char** argv, Options& options)
     // answer.
     std::string letters = "+:";
     std::vector<option> table;
+    std::vector<std::string> longForms;
     std::map<int, std::string> names; // by what getopt_long() answers
     int answer = 1 << 8;              // beyond all letters
     const auto add = [&](const std::string& name, char letter, bool takesValue)
@@ -82,6 +85,7 @@ void readOptions(int argc, char** argv, Options& options)
     for (const reference::ProgramOption& known : reference::programOptions())
     {
         add(known.name, known.letter, !known.value.empty());
+        longForms.push_back("--" + known.name);
     }
     add("complete", 0, true); // for shells, not for people
     table.push_back({});
@@ -102,7 +106,8 @@ void readOptions(int argc, char** argv, Options& options)
         case ':':
             throw InputError("option " + word, "nothing", "a value");
         case '?':
-            throw InputError("option", quoted(word), "one that \"kel-node --help\" lists");
+            throw InputError("option", quoted(word),
+                             "one that \"kel-node --help\" lists" + wording::didYouMean(word, longForms));
         default:
             actionOf.at(names.at(found))(optarg == nullptr ? "" : optarg);
         }

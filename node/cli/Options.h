@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "node/commands/Value.h"
+
 namespace node::cli
 {
 
@@ -14,7 +16,7 @@ struct Options
     struct Trace
     {
         std::string channels;
-        std::int32_t level = 255;
+        std::int32_t level = commands::TraceLevel::Highest;
     };
 
     bool help = false;

@@ -1,6 +1,5 @@
 #include "node/cli/Progress.h"
 
-#include <ostream>
 #include <utility>
 
 #include <fmt/format.h>
@@ -17,8 +16,9 @@ constexpr std::chrono::milliseconds BetweenDrawings(100);
 
 } // namespace
 
-Progress::Progress(std::ostream* screen, std::function<Clock::time_point()> now)
-    : m_screen(screen), m_now(std::move(now)), m_nextLook(m_now()), m_nextDrawing(m_nextLook + BeforeFirstDrawing)
+Progress::Progress(std::function<void(const std::string&)> draw, std::function<Clock::time_point()> now)
+    : m_draw(std::move(draw)), m_now(std::move(now)), m_nextLook(m_now()),
+      m_nextDrawing(m_nextLook + BeforeFirstDrawing)
 {
 }
 
@@ -42,7 +42,7 @@ void Progress::reached(double share)
     {
         throw commands::Interrupted();
     }
-    if (m_screen != nullptr && now >= m_nextDrawing)
+    if (m_draw && now >= m_nextDrawing)
     {
         m_nextDrawing = now + BetweenDrawings;
         draw(fmt::format("{:3.0f} %", share * 100));
@@ -52,7 +52,7 @@ void Progress::reached(double share)
 void Progress::draw(const std::string& text)
 {
     constexpr const char* ClearToLineEnd = "\033[K";
-    *m_screen << '\r' << text << ClearToLineEnd << std::flush;
+    m_draw("\r" + text + ClearToLineEnd);
     m_drawn = true;
 }
 

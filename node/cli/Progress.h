@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <functional>
-#include <iosfwd>
 #include <string>
 
 #include "node/commands/Console.h"
@@ -17,9 +16,10 @@ class Progress : public commands::LongRun
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// @param screen  a terminal to draw on, borrowed; null where there is none
-    /// @param now     reads the clock
-    explicit Progress(std::ostream* screen, std::function<Clock::time_point()> now = Clock::now);
+    /// @param draw  draws on a terminal; none where there is no terminal
+    /// @param now   reads the clock
+    explicit Progress(std::function<void(const std::string&)> draw,
+                      std::function<Clock::time_point()> now = Clock::now);
 
     /// Takes what is drawn away.
     ~Progress() override;
@@ -29,7 +29,7 @@ public:
 private:
     void draw(const std::string& text);
 
-    std::ostream* m_screen;
+    std::function<void(const std::string&)> m_draw;
     std::function<Clock::time_point()> m_now;
     terminal::Interrupt m_interrupt;
     Clock::time_point m_nextLook;

@@ -35,7 +35,13 @@ void runPrompt(Session& session, const ReadLine& read, const std::function<void(
     print("A simulated node. \"help\" lists commands, \"?\" what may come next, \"exit\" leaves.\n");
     while (!session.left() && session.good())
     {
-        session.letTimeGoOn();
+        try
+        {
+            session.letTimeGoOn();
+        }
+        catch (const commands::Interrupted&) // nobody waits for the clock: a line is typed all the same
+        {
+        }
         session.closeLine();
         const auto typed = read(promptText(session, colours));
         if (typed.ending == Ending::End)

@@ -1,5 +1,6 @@
 #include "node/cli/Recording.h"
 
+#include <cerrno>
 #include <cstddef>
 
 #include <fmt/format.h>
@@ -89,7 +90,7 @@ void Recorder::start(const std::string& file, const History& history)
     m_file.open(file, std::ios::binary);
     if (!m_file)
     {
-        throw InputError("recording", wording::quoted(file), "a file that can be written");
+        throw InputError(file, wording::foundInsteadOf("folder", {errno, std::generic_category()}), "a file to write");
     }
     m_name = file;
     write(history.beginning);
@@ -106,6 +107,10 @@ void Recorder::stop()
         throw InputError("recording", "none running", "one that \"record\" has begun");
     }
     m_file.close();
+    if (!m_file)
+    {
+        throw commands::CommandError(wording::quoted(m_name) + " cannot be written any more");
+    }
 }
 
 void Recorder::write(const Beginning& beginning)

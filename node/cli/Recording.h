@@ -50,7 +50,7 @@ public:
     /// @throws InputError when the history is not complete, a recording is running, or the file cannot be written
     void start(const std::string& file, const History& history);
 
-    /// @throws InputError when nothing is recorded
+    /// @throws InputError when nothing is recorded, CommandError when the file could not be written to its end
     void stop();
 
     /// A node began anew, by the command whose answer comes next.

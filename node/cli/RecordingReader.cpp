@@ -1,10 +1,13 @@
 #include "node/cli/RecordingReader.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <cstddef>
+#include <filesystem>
 #include <map>
 #include <stdexcept>
+#include <system_error>
 
 #include <fmt/format.h>
 
@@ -97,6 +100,18 @@ Entry toEntry(const ordered_json& document)
     return entry;
 }
 
+/// Why a line does not fit.
+std::string reasonOf(const std::exception& error)
+{
+    if (dynamic_cast<const ordered_json::parse_error*>(&error) != nullptr)
+    {
+        return "no JSON";
+    }
+    const std::string text = error.what();
+    const bool isOfLibrary = dynamic_cast<const ordered_json::exception*>(&error) != nullptr;
+    return isOfLibrary ? text.substr(text.find("] ") + 2) : text; // it begins with the library's "[name.number] "
+}
+
 /// The texts' first line that differs, with its end: "line 3: found ..., recorded ...".
 std::string differingLine(const std::string& found, const std::string& recorded)
 {
@@ -114,12 +129,13 @@ std::string differingLine(const std::string& found, const std::string& recorded)
     return fmt::format("line {}: found {}, recorded {}", line, lineAt(found), lineAt(recorded));
 }
 
-/// Trace messages without what may differ.
+/// Trace messages without what may differ. Their time is the command's, which is the same.
 ordered_json comparable(ordered_json trace)
 {
     for (ordered_json& message : trace)
     {
         message.erase("line");
+        message.erase("time_s");
     }
     return trace;
 }
@@ -128,10 +144,18 @@ ordered_json comparable(ordered_json trace)
 
 RecordingReader::RecordingReader(const std::string& file) : m_name(file), m_file(file, std::ios::binary)
 {
-    if (m_file.peek() == std::ifstream::traits_type::eof())
+    constexpr const char* Expected = "a file that \"record\" wrote";
+    const bool isEmpty = m_file.peek() == std::ifstream::traits_type::eof();
+    if (!m_file.is_open() || m_file.bad())
     {
-        throw InputError("recording", wording::quoted(file), "a file that \"record\" wrote");
+        throw InputError(file, wording::foundInsteadOf("file", {errno, std::generic_category()}), Expected);
     }
+    if (isEmpty)
+    {
+        throw InputError(file, "nothing", Expected);
+    }
+    std::error_code unknown; // a pipe has no size
+    m_size = static_cast<double>(std::filesystem::file_size(file, unknown));
 }
 
 std::optional<Entry> RecordingReader::next()
@@ -142,6 +166,7 @@ std::optional<Entry> RecordingReader::next()
         return std::nullopt;
     }
     ++m_line;
+    m_read += static_cast<double>(line.size() + 1);
     try
     {
         Entry entry = toEntry(ordered_json::parse(line));
@@ -154,10 +179,13 @@ std::optional<Entry> RecordingReader::next()
     }
     catch (const std::exception& error)
     {
-        const bool isJson = dynamic_cast<const ordered_json::parse_error*>(&error) == nullptr;
-        throw InputError(fmt::format("{}:{}", m_name, m_line), isJson ? error.what() : "no JSON",
-                         "what \"record\" writes there");
+        throw InputError(fmt::format("{}:{}", m_name, m_line), reasonOf(error), "what \"record\" writes there");
     }
+}
+
+double RecordingReader::share() const
+{
+    return std::min(m_read / m_size, 1.0);
 }
 
 std::string firstDifference(const output::Answer& answer, const nlohmann::ordered_json& recorded)

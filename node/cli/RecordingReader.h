@@ -33,8 +33,13 @@ public:
     /// @throws InputError "FILE:LINE: ..." for one that does not fit
     std::optional<Entry> next();
 
+    /// How much has been read, from 0 to 1.
+    double share() const;
+
 private:
     std::string m_name;
+    double m_size = 0; ///< in bytes
+    double m_read = 0;
     std::ifstream m_file;
     int m_line = 0;
 };

@@ -7,9 +7,11 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "node/cli/Guard.h"
 #include "node/cli/RecordingReader.h"
 #include "node/cli/Session.h"
 #include "node/commands/LinkText.h"
+#include "node/commands/LongTime.h"
 #include "node/wording/InputError.h"
 
 namespace node::cli
@@ -59,24 +61,30 @@ std::unique_ptr<std::ostream> discard()
 class Replay
 {
 public:
-    Replay(commands::Desk& desk, const std::string& file) : m_desk(desk), m_file(file), m_reader(file)
+    Replay(commands::Desk& desk, const std::string& file, commands::LongRun& run)
+        : m_desk(desk), m_file(file), m_run(run), m_reader(file)
     {
     }
 
     commands::Outcome run()
     {
-        bool begun = false; // by the line before
+        std::optional<Entry> beginning; // of a node, by the command that follows
         int commands = 0;
         while (const auto entry = m_reader.next())
         {
-            if (entry->beginning)
+            m_run.reached(m_reader.share());
+            if (entry->beginning && entry->line == 1)
             {
                 begin(*entry);
-                begun = entry->line > 1;
                 continue;
             }
-            // The command that loaded a scenario has been done: what it loaded is in the recording.
-            const std::string difference = std::exchange(begun, false) ? "" : repeat(*entry);
+            if (entry->beginning)
+            {
+                beginning = entry;
+                continue;
+            }
+            const std::string difference =
+                beginning ? beginAnew(*std::exchange(beginning, std::nullopt), *entry) : repeat(*entry);
             if (!difference.empty())
             {
                 return {1,
@@ -86,7 +94,10 @@ public:
             }
             ++commands;
         }
-        return {0, fmt::format("{}: {} commands, each answered as recorded\n", m_file, commands), {}};
+        return {0,
+                fmt::format("{}: {} {}, each answered as recorded\n", m_file, commands,
+                            commands == 1 ? "command" : "commands"),
+                {}};
     }
 
     const History& history() const
@@ -100,15 +111,39 @@ private:
         return fmt::format("{}:{}", m_file, entry.line);
     }
 
-    void begin(const Entry& entry)
+    /// Starts the node that the recording begins with. What that traces is no command's.
+    void begin(const Entry& beginning)
     {
-        const Beginning& beginning = *entry.beginning;
-        const scenario::Scenario scenario = parse(beginning, placeOf(entry));
-        for (const auto& [channel, level] : beginning.traceLevels)
+        const scenario::Scenario scenario = prepare(beginning);
+        const output::Answer answer = m_session.attempt([&] { m_session.start(scenario); });
+        if (answer.status != Status::Done)
+        {
+            throw Ended(answer.status, answer.error);
+        }
+    }
+
+    /// Sets the trace levels that the node began with. @return its scenario
+    scenario::Scenario prepare(const Entry& entry) const
+    {
+        const scenario::Scenario scenario = parse(*entry.beginning, placeOf(entry));
+        for (const auto& [channel, level] : entry.beginning->traceLevels)
         {
             trace::setLevel(channel, level);
         }
-        m_session.start(scenario);
+        return scenario;
+    }
+
+    /// Starts the node that a command began. Its words are not carried out: the file that they name may be gone.
+    /// @return how that differs from the command's answer
+    std::string beginAnew(const Entry& beginning, const Entry& command)
+    {
+        const scenario::Scenario scenario = prepare(beginning);
+        output::Answer answer = m_session.attempt([&] { m_session.start(scenario); });
+        if (answer.status == Status::Done)
+        {
+            answer.outcome = commands::Outcome();
+        }
+        return differenceFrom(answer, command);
     }
 
     static scenario::Scenario parse(const Beginning& beginning, const std::string& place)
@@ -139,34 +174,41 @@ private:
         }
         if (now < entry.time)
         {
-            m_desk.link().advance(entry.time - now);
+            commands::letTimeGoOn(m_desk.link(), m_session, entry.time - now);
         }
-        // A command that was not understood and yet made a file could not make it.
-        m_makesFiles = entry.answer.is_null() || entry.answer.at("status") != "not understood";
         m_session.carryOut(entry.words);
-        return entry.answer.is_null() ? "" : firstDifference(m_output.last, entry.answer);
+        if (m_session.interrupted())
+        {
+            throw commands::Interrupted();
+        }
+        return differenceFrom(m_output.last, entry);
     }
 
-    Surroundings withoutFiles()
+    static std::string differenceFrom(const output::Answer& answer, const Entry& entry)
+    {
+        return entry.answer.is_null() ? "" : firstDifference(answer, entry.answer);
+    }
+
+    static Surroundings withoutFiles()
     {
         Surroundings surroundings;
-        surroundings.create = [this](const std::string& /*file*/) { return m_makesFiles ? discard() : nullptr; };
+        surroundings.create = [](const std::string& /*file*/) { return discard(); };
         return surroundings;
     }
 
     commands::Desk& m_desk;
     std::string m_file;
+    commands::LongRun& m_run;
     RecordingReader m_reader;
     LastAnswer m_output;
-    bool m_makesFiles = true;
     Session m_session{m_desk, m_output, withoutFiles()};
 };
 
 } // namespace
 
-commands::Outcome replay(commands::Desk& desk, const std::string& file, History& history)
+commands::Outcome replay(commands::Desk& desk, const std::string& file, History& history, commands::LongRun& run)
 {
-    Replay replay(desk, file);
+    Replay replay(desk, file, run);
     const int starts = desk.starts();
     try
     {

@@ -1,6 +1,7 @@
 #include "node/cli/Script.h"
 
 #include <istream>
+#include <string_view>
 
 #include <fmt/format.h>
 
@@ -9,12 +10,24 @@
 namespace node::cli
 {
 
+namespace
+{
+
+/// What some editors write before the first line of UTF-8.
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+} // namespace
+
 Status runScript(Session& session, std::istream& input, const std::string& name, AtFailure atFailure)
 {
     Status first = Status::Done;
     std::string line;
     for (int number = 1; !session.left() && session.good() && std::getline(input, line); ++number)
     {
+        if (number == 1 && line.starts_with(ByteOrderMark))
+        {
+            line.erase(0, ByteOrderMark.size());
+        }
         const Status status = session.carryOutLine(line, fmt::format("{}:{}", name, number));
         if (first == Status::Done)
         {

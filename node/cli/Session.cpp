@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <utility>
 
@@ -11,6 +12,7 @@
 #include "node/cli/Progress.h"
 #include "node/cli/Replay.h"
 #include "node/commands/Line.h"
+#include "node/commands/LongTime.h"
 #include "node/reference/Help.h"
 #include "node/terminal/Interrupt.h"
 #include "node/wording/InputError.h"
@@ -26,12 +28,26 @@ using output::Answer;
 /// The radio channel that a command is for.
 std::optional<RadioChannel> channelOf(const commands::Command& command, const std::vector<std::string>& words)
 {
-    if (words.empty() || command.arguments.empty() || command.arguments.front().name != "channel")
+    if (words.empty() || command.arguments.empty() ||
+        command.arguments.front().kind != commands::WordKind::RadioChannel)
     {
         return std::nullopt;
     }
     const auto channel = commands::ChannelNumber::parse(words.front());
     return channel ? std::optional(channel->number) : std::nullopt;
+}
+
+/// Takes a step behind a command and adds to its answer what goes wrong.
+/// @param subject  of that
+void note(Answer& answer, const std::string& subject, const std::function<void()>& step)
+{
+    Answer ofStep;
+    guard(ofStep, step);
+    if (ofStep.status != Status::Done)
+    {
+        answer.status = std::max(answer.status, ofStep.status);
+        answer.error += fmt::format("{}{}: {}", answer.error.empty() ? "" : "; ", subject, ofStep.error);
+    }
 }
 
 } // namespace
@@ -75,16 +91,21 @@ Status Session::carryOutLine(const std::string& line, const std::string& place)
     return words.empty() ? Status::Done : carryOut(words, place);
 }
 
-Status Session::attempt(const std::function<void()>& step)
+Answer Session::attempt(const std::function<void()>& step)
 {
     Answer answer = beginAnswer("");
     guard(answer, step);
+    answer.trace = takeTrace();
     if (answer.status != Status::Done)
     {
-        answer.trace = takeTrace();
         show(answer);
     }
-    return answer.status;
+    return answer;
+}
+
+void Session::tellNext(std::vector<output::TimedMessage> messages)
+{
+    m_toTell = std::move(messages);
 }
 
 Answer Session::beginAnswer(const std::string& place) const
@@ -108,6 +129,7 @@ Answer Session::perform(const std::vector<std::string>& words, const std::string
     answer.arguments.assign(words.begin() + 1, words.end());
     const int starts = m_desk.starts();
     const commands::Command* command = nullptr;
+    m_interrupted = false;
     guard(answer,
           [&]
           {
@@ -127,10 +149,15 @@ Answer Session::perform(const std::vector<std::string>& words, const std::string
     // A message that the command left open belongs before whatever comes next.
     trace::completeOpenMessage();
     answer.trace = takeTrace();
+    // What goes wrong with files is no answer of the node: it is told behind that, and not recorded.
+    const Answer ofNode = answer;
     if (command != nullptr && command->repeatable)
     {
-        keep(answer, m_desk.starts() != starts);
+        note(answer, "recording", [&] { keep(*command, ofNode, m_desk.starts() != starts); });
     }
+    note(answer, "trace file", [&] { expectTraceFileWritten(); });
+    answer.trace.insert(answer.trace.begin(), m_toTell.begin(), m_toTell.end());
+    m_toTell.clear();
     std::erase_if(answer.trace, [this](const output::TimedMessage& message) { return !lets(message.message); });
     return answer;
 }
@@ -149,31 +176,30 @@ commands::Outcome Session::call(const commands::Command& command, const std::vec
     }
 }
 
-void Session::keep(Answer& answer, bool begun)
+void Session::keep(const commands::Command& command, const Answer& answer, bool begun)
 {
+    // What was cut short is left out, and so is what a file did not let begin: the node alone would not do it again.
+    // The time that it took is in the next command's.
+    if (answer.cutShort || (command.needsFile && answer.status == Status::NotUnderstood))
+    {
+        return;
+    }
     if (begun)
     {
         begin(m_history, m_desk.scenario());
+        m_recorder.write(m_history.beginning);
     }
     else
     {
         add(m_history, answer);
     }
-    const auto write = [&]
-    {
-        if (begun && answer.status == Status::Done)
-        {
-            m_recorder.write(m_history.beginning);
-        }
-        m_recorder.write(answer);
-    };
-    Answer unwritten;
-    guard(unwritten, write);
-    if (unwritten.status != Status::Done)
-    {
-        answer.status = std::max(answer.status, unwritten.status);
-        answer.error += (answer.error.empty() ? "" : "; ") + ("recording: " + unwritten.error);
-    }
+    m_recorder.write(answer);
+}
+
+void Session::expectTraceFileWritten()
+{
+    const std::lock_guard lock(m_mutex);
+    m_traceView.expectWritten();
 }
 
 void Session::letTimeGoOn()
@@ -186,8 +212,13 @@ void Session::letTimeGoOn()
     const radio::Ticks gone = now - std::exchange(m_lastTime, now);
     if (m_desk.hasNode())
     {
-        m_desk.link().advance(gone);
+        commands::letTimeGoOn(m_desk.link(), *this, gone);
     }
+}
+
+bool Session::interrupted() const
+{
+    return m_interrupted;
 }
 
 bool Session::left() const
@@ -250,7 +281,6 @@ int Session::watch(const commands::Watch& watch)
     const std::chrono::milliseconds interval = watch.interval;
     const auto wait = [&]
     { return m_surroundings.wait ? m_surroundings.wait(interval) : interrupt.happensWithin(interval); };
-    m_interrupted = false;
     for (std::uint32_t round = 1;; ++round)
     {
         const Answer answer = perform(watch.command, "");
@@ -291,7 +321,8 @@ void Session::stopRecording()
 commands::Outcome Session::replay(const std::string& file)
 {
     m_recorder.expectNone();
-    return cli::replay(m_desk, file, m_history);
+    const auto run = beginLongRun();
+    return cli::replay(m_desk, file, m_history, *run);
 }
 
 void Session::filterTrace(const std::string& channels, std::int32_t level)
@@ -312,6 +343,17 @@ void Session::stopTraceFile()
     m_traceView.close();
 }
 
+bool Session::canCreate(const std::string& file)
+{
+    const bool isThere = std::filesystem::exists(file);
+    const bool opens = std::ofstream(file, std::ios::app).is_open();
+    if (opens && !isThere)
+    {
+        std::filesystem::remove(file);
+    }
+    return opens;
+}
+
 std::unique_ptr<std::ostream> Session::create(const std::string& file)
 {
     if (m_surroundings.create)
@@ -324,10 +366,19 @@ std::unique_ptr<std::ostream> Session::create(const std::string& file)
 
 std::unique_ptr<commands::LongRun> Session::beginLongRun()
 {
-    return std::make_unique<Progress>(m_surroundings.progress);
+    if (m_surroundings.progress == nullptr)
+    {
+        return std::make_unique<Progress>(nullptr);
+    }
+    return std::make_unique<Progress>(
+        [this](const std::string& drawing)
+        {
+            const std::lock_guard lock(m_mutex);
+            *m_surroundings.progress << drawing << std::flush;
+        });
 }
 
-terminal::Size Session::size()
+terminal::Size Session::size() const
 {
     return m_surroundings.size ? m_surroundings.size() : terminal::Size();
 }

@@ -61,11 +61,18 @@ public:
     /// Carries out a line; nothing when it is empty or a comment.
     Status carryOutLine(const std::string& line, const std::string& place = "");
 
-    /// Takes a step that is no command, such as to start the node; shows what goes wrong.
-    Status attempt(const std::function<void()>& step);
+    /// Takes a step that is no command, such as to start the node. What goes wrong is shown, and answered.
+    output::Answer attempt(const std::function<void()>& step);
+
+    /// Tells trace messages that belong to no command with the next answer.
+    void tellNext(std::vector<output::TimedMessage> messages);
 
     /// Lets the link's time go on by what the clock has moved.
+    /// @throws Interrupted when Ctrl-C comes meanwhile; what is left of that time does not go by
     void letTimeGoOn();
+
+    /// Whether Ctrl-C ended the last command.
+    bool interrupted() const;
 
     /// Whether "exit" was said.
     bool left() const;
@@ -92,9 +99,10 @@ public:
     void filterTrace(const std::string& channels, std::int32_t level) override;
     void startTraceFile(const std::string& file) override;
     void stopTraceFile() override;
+    bool canCreate(const std::string& file) override;
     std::unique_ptr<std::ostream> create(const std::string& file) override;
     std::unique_ptr<commands::LongRun> beginLongRun() override;
-    terminal::Size size() override;
+    terminal::Size size() const override;
 
 private:
     output::Answer beginAnswer(const std::string& place) const;
@@ -104,7 +112,8 @@ private:
 
     /// Keeps the command for recordings.
     /// @param begun  by the command, a node
-    void keep(output::Answer& answer, bool begun);
+    void keep(const commands::Command& command, const output::Answer& answer, bool begun);
+    void expectTraceFileWritten();
     void receive(const trace::Message& message);
     std::vector<output::TimedMessage> takeTrace();
 
@@ -116,7 +125,7 @@ private:
     Surroundings m_surroundings;
     radio::Ticks m_lastTime{0}; ///< of the clock
     bool m_left = false;        ///< "exit" was said
-    bool m_interrupted = false; ///< Ctrl-C ended a command, since a watch began
+    bool m_interrupted = false; ///< Ctrl-C ended the last command
     History m_history;
     Recorder m_recorder;
 
@@ -124,8 +133,9 @@ private:
     mutable std::mutex m_mutex;
     output::Output* m_output;
     output::TraceView m_traceView;
-    std::vector<output::TimedMessage> m_trace; ///< since the last answer
-    std::atomic<radio::Ticks::rep> m_now = 0;  ///< of the node, when the command began
+    std::vector<output::TimedMessage> m_trace;  ///< since the last answer
+    std::vector<output::TimedMessage> m_toTell; ///< with the next answer, and of no command
+    std::atomic<radio::Ticks::rep> m_now = 0;   ///< of the node, when the command began
     trace::Sink m_sinkBefore;
 };
 

@@ -15,11 +15,14 @@
 #include "node/cli/Prompt.h"
 #include "node/cli/Script.h"
 #include "node/cli/Session.h"
+#include "node/commands/Binding.h"
 #include "node/commands/Desk.h"
+#include "node/commands/TraceChannels.h"
 #include "node/output/JsonOutput.h"
 #include "node/reference/Completion.h"
 #include "node/reference/Help.h"
 #include "node/terminal/LineEditor.h"
+#include "node/terminal/PlainLines.h"
 #include "node/terminal/Screen.h"
 #include "node/wording/InputError.h"
 
@@ -45,9 +48,12 @@ node::terminal::Size screenSize()
 
 node::output::Look look()
 {
-    return {node::terminal::hasColours(STDOUT_FILENO), node::terminal::hasColours(STDERR_FILENO),
-            node::terminal::canRedraw(STDOUT_FILENO), screenSize,
-            isatty(STDOUT_FILENO) != 0 && isatty(STDERR_FILENO) != 0};
+    return {node::terminal::hasColours(STDOUT_FILENO),
+            node::terminal::hasColours(STDERR_FILENO),
+            node::terminal::canRedraw(STDOUT_FILENO),
+            screenSize,
+            isatty(STDOUT_FILENO) != 0,
+            isatty(STDERR_FILENO) != 0};
 }
 
 /// How a person types lines; none without a terminal to type them on.
@@ -57,19 +63,6 @@ struct Typist
     std::unique_ptr<LineEditor> editor; ///< null where what is printed does not go to a terminal
 };
 
-/// Lines as the terminal itself lets them be typed.
-LineEditor::Typed readPlain(const std::string& prompt)
-{
-    std::cerr << prompt << std::flush;
-    std::string line;
-    if (!std::getline(std::cin, line))
-    {
-        std::cerr << std::endl; // the prompt stands there
-        return {};
-    }
-    return {LineEditor::Ending::Line, line};
-}
-
 std::optional<Typist> makeTypist(const Options& options)
 {
     if (!options.words.empty() || options.file || isatty(STDIN_FILENO) == 0)
@@ -78,7 +71,8 @@ std::optional<Typist> makeTypist(const Options& options)
     }
     if (isatty(STDOUT_FILENO) == 0)
     {
-        return Typist{readPlain, nullptr};
+        const auto lines = std::make_shared<node::terminal::PlainLines>();
+        return Typist{[lines](const std::string& prompt) { return lines->read(prompt); }, nullptr};
     }
     const std::string folder = node::terminal::stateFolder("kel-node");
     Typist typist;
@@ -111,7 +105,8 @@ Status runFile(Session& session, const Options& options)
         return node::cli::runScript(session, std::cin, "<stdin>", atFailure);
     }
     std::ifstream file(name, std::ios::binary);
-    if (!file)
+    file.peek(); // tells a folder from a file
+    if (!file.is_open() || file.bad())
     {
         throw InputError(name, node::wording::foundInsteadOf("file", {errno, std::generic_category()}),
                          "a file of commands");
@@ -129,12 +124,14 @@ Status runCommands(Session& session, const Options& options, const std::optional
     if (typist)
     {
         const bool colours = typist->editor != nullptr && node::terminal::hasColours(STDOUT_FILENO);
+        // Beside the prompt: what goes elsewhere is answers alone.
+        std::ostream& screen = typist->editor != nullptr ? std::cout : std::cerr;
         node::cli::runPrompt(
-            session, typist->read, [](const std::string& text) { std::cout << text << std::flush; }, colours);
+            session, typist->read, [&screen](const std::string& text) { screen << text << std::flush; }, colours);
         return Status::Done;
     }
     Status status = Status::Done;
-    const Status reading = session.attempt([&] { status = runFile(session, options); });
+    const Status reading = session.attempt([&] { status = runFile(session, options); }).status;
     return reading == Status::Done ? status : reading;
 }
 
@@ -163,11 +160,29 @@ bool tellAboutItself(const Options& options)
     return true;
 }
 
+/// @throws InputError when the option names no channel of the node
+void expectTraceChannels(const Options::Trace& trace)
+{
+    try
+    {
+        node::commands::traceChannelsLike(*node::commands::ChannelPattern::parse(trace.channels));
+    }
+    catch (const node::commands::Misfit& misfit)
+    {
+        throw InputError("option --trace", misfit.found, misfit.expected);
+    }
+}
+
 void prepare(Session& session, const Options& options)
 {
     if (options.file && !options.words.empty())
     {
         throw InputError("option --file", "a command beside it", "one of the two");
+    }
+    if (options.record && !options.words.empty() && !node::commands::isRecorded(options.words.front()))
+    {
+        throw InputError("option --record", node::wording::quoted(options.words.front()),
+                         "a command that is recorded, or lines of commands");
     }
     const auto scenario = options.scenario ? node::scenario::load(*options.scenario) : node::scenario::Scenario();
     if (options.trace)
@@ -178,10 +193,10 @@ void prepare(Session& session, const Options& options)
     {
         session.startTraceFile(*options.traceFile);
     }
-    const bool needsNode = options.words.empty() || options.words.front() != "help";
-    if (needsNode)
+    session.start(scenario);
+    if (options.trace)
     {
-        session.start(scenario);
+        expectTraceChannels(*options.trace); // which the node's start has made
     }
     if (options.record)
     {
@@ -211,7 +226,9 @@ Status runProgram(int argc, char** argv)
     node::commands::NodeDesk desk;
     node::cli::Surroundings surroundings;
     surroundings.size = screenSize;
-    surroundings.progress = node::terminal::canRedraw(STDERR_FILENO) ? &std::cerr : nullptr;
+    surroundings.progress = node::terminal::canRedraw(STDERR_FILENO)   ? &std::cerr
+                            : node::terminal::canRedraw(STDOUT_FILENO) ? &std::cout
+                                                                       : nullptr;
     if (options.clockOnTheWall.value_or(typist.has_value()))
     {
         surroundings.clock = wallClock;
@@ -225,8 +242,13 @@ Status runProgram(int argc, char** argv)
         }
         prepare(session, options);
     };
-    const Status begun = session.attempt(begin);
-    return begun == Status::Done ? runCommands(session, options, typist) : begun;
+    const node::output::Answer begun = session.attempt(begin);
+    if (begun.status != Status::Done)
+    {
+        return begun.status;
+    }
+    session.tellNext(begun.trace);
+    return runCommands(session, options, typist);
 }
 
 } // namespace

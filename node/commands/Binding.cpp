@@ -1,6 +1,8 @@
 #include "node/commands/Binding.h"
 
 #include <algorithm>
+#include <stdexcept>
+#include <utility>
 
 namespace node::commands
 {
@@ -14,26 +16,38 @@ Words::Words(const Command& command, const std::vector<std::string>& words) : m_
             m_arguments.push_back(&argument);
         }
     }
-    auto word = words.begin();
-    for (; word != words.end(); ++word)
+    TypedOptions typed = readTypedOptions(command, words);
+    for (const TypedOption& option : typed.options)
     {
-        const auto argument =
-            std::find_if(command.arguments.begin(), command.arguments.end(),
-                         [&](const Argument& known) { return !known.option.empty() && known.option == *word; });
-        if (argument == command.arguments.end())
+        if (!m_options.try_emplace(option.argument->option, option).second)
         {
-            break;
-        }
-        if (++word == words.end())
-        {
-            throw wording::InputError(placeOf(*argument), "nothing", argument->form);
-        }
-        if (!m_options.try_emplace(argument->option, TypedOption{&*argument, *word}).second)
-        {
-            throw wording::InputError(placeOf(*argument), "it twice", "it once");
+            throw unfit(*option.argument, "it twice", "it once");
         }
     }
-    m_words.assign(word, words.end());
+    if (typed.unfinished != nullptr)
+    {
+        throw unfit(*typed.unfinished, "nothing", typed.unfinished->form);
+    }
+    m_words = std::move(typed.others);
+}
+
+wording::InputError Words::unfit(const Argument& argument, const std::string& found, const std::string& expected) const
+{
+    const auto number = std::find(m_arguments.begin(), m_arguments.end(), &argument) - m_arguments.begin() + 1;
+    const std::string which =
+        argument.option.empty() ? fmt::format("argument {}", number) : fmt::format("option {}", argument.option);
+    return {fmt::format("{}: {} ({})", m_command.name, which, argument.name), found, expected};
+}
+
+wording::InputError Words::unfit(const Misfit& misfit) const
+{
+    const auto argument = std::find_if(m_command.arguments.begin(), m_command.arguments.end(),
+                                       [&](const Argument& known) { return known.name == misfit.argument; });
+    if (argument == m_command.arguments.end())
+    {
+        throw std::logic_error(m_command.name + " has no argument " + misfit.argument);
+    }
+    return unfit(*argument, misfit.found, misfit.expected.empty() ? argument->form : misfit.expected);
 }
 
 } // namespace node::commands

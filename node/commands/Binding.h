@@ -13,7 +13,9 @@
 #include <fmt/format.h>
 
 #include "node/commands/Command.h"
+#include "node/commands/TypedOptions.h"
 #include "node/commands/Value.h"
+#include "node/scenario/FaultKeys.h"
 #include "node/wording/InputError.h"
 
 /// Makes commands of functions: a function's parameters say which words it takes, which values fit, and what is
@@ -21,16 +23,24 @@
 namespace node::commands
 {
 
+/// Thrown by the function of a command: an argument has the right form, but does not fit what is there.
+struct Misfit
+{
+    std::string argument; ///< its name
+    std::string found;
+    std::string expected{}; ///< "" where it is what the argument's form says
+};
+
 /// The words of a line, taken one by one.
 class Words
 {
     template <typename Parse>
-    static auto fitting(const Parse& parse, const std::string& word, const std::string& place, const Argument& argument)
+    auto fitting(const Parse& parse, const std::string& word, const Argument& argument) const
     {
         const auto value = parse(word);
         if (!value)
         {
-            throw wording::InputError(place, wording::quoted(word), argument.form);
+            throw unfit(argument, wording::quoted(word), argument.form);
         }
         return *value;
     }
@@ -38,6 +48,11 @@ class Words
 public:
     /// @throws InputError for an option without a value or given twice
     Words(const Command& command, const std::vector<std::string>& words);
+
+    const Command& command() const
+    {
+        return m_command;
+    }
 
     bool atEnd() const
     {
@@ -50,12 +65,11 @@ public:
     auto take(const Parse& parse)
     {
         const Argument& argument = *m_arguments.at(m_next);
-        const std::string place = fmt::format("{}: argument {} ({})", m_command.name, m_next + 1, argument.name);
         if (atEnd())
         {
-            throw wording::InputError(place, "nothing", argument.form);
+            throw unfit(argument, "nothing", argument.form);
         }
-        return fitting(parse, m_words[m_next++], place, argument);
+        return fitting(parse, m_words[m_next++], argument);
     }
 
     /// Parses the word behind an option; none where the option is not there.
@@ -68,8 +82,7 @@ public:
         {
             return std::nullopt;
         }
-        const auto& [argument, word] = typed->second;
-        return fitting(parse, word, placeOf(*argument), *argument);
+        return fitting(parse, typed->second.value, *typed->second.argument);
     }
 
     /// All words that are left.
@@ -92,22 +105,17 @@ public:
         }
     }
 
+    /// The error at the place of an argument of the command.
+    wording::InputError unfit(const Argument& argument, const std::string& found, const std::string& expected) const;
+
+    /// The error at the place of the argument that a function found not to fit.
+    wording::InputError unfit(const Misfit& misfit) const;
+
 private:
-    std::string placeOf(const Argument& option) const
-    {
-        return fmt::format("{}: option {} ({})", m_command.name, option.option, option.name);
-    }
-
-    struct TypedOption
-    {
-        const Argument* argument;
-        std::string word;
-    };
-
     const Command& m_command;
-    std::vector<const Argument*> m_arguments; ///< those that are not options
-    std::map<std::string, TypedOption> m_options;
-    std::vector<std::string> m_words; ///< those behind the options
+    std::vector<const Argument*> m_arguments;     ///< those that are not options
+    std::map<std::string, TypedOption> m_options; ///< by their words
+    std::vector<std::string> m_words;             ///< those behind the options
     std::size_t m_next = 0;
 };
 
@@ -140,6 +148,10 @@ template <typename Value>
 Argument argumentOf()
 {
     Argument argument{"", Value::form(), ""};
+    if constexpr (requires { Value::Kind; })
+    {
+        argument.kind = Value::Kind;
+    }
     if constexpr (requires(const std::string& word) { Value::choices(word); })
     {
         argument.choices = [](const std::vector<std::string>& words) { return Value::choices(words.back()); };
@@ -258,18 +270,18 @@ struct Slot<Option<Letter, Value>> : ArgumentSlot<Option<Letter, Value>>
 };
 
 template <>
-struct Slot<FaultWords> : ArgumentSlot<FaultWords>
+struct Slot<TypedFault> : ArgumentSlot<TypedFault>
 {
     static Argument argument()
     {
-        Argument described = argumentOf<FaultWords>();
+        Argument described = argumentOf<TypedFault>();
         described.extent = Extent::Words;
         return described;
     }
 
     void read(Words& words)
     {
-        value.words = words.takeRest();
+        value.fault = scenario::typedFault(words.takeRest(), words.command().name);
     }
 };
 
@@ -392,7 +404,14 @@ Command makeCommandOf(const std::string& name, const std::string& summary, const
         std::tuple<Slot<Parameters>...> slots;
         std::apply([&](auto&... slot) { (slot.read(words), ...); }, slots);
         words.end();
-        return std::apply([&](auto&... slot) { return invoke(desk, console, slot...); }, slots);
+        try
+        {
+            return std::apply([&](auto&... slot) { return invoke(desk, console, slot...); }, slots);
+        }
+        catch (const Misfit& misfit)
+        {
+            throw words.unfit(misfit);
+        }
     };
     return command;
 }

@@ -28,8 +28,10 @@ struct Argument
     std::string more{};    ///< what may come after it, without a name of its own: "[KEY=VALUE...]"
     std::string option{};  ///< "-n" where it is typed behind that word, before all others and in any order; or ""
     Extent extent = Extent::Word;
+    WordKind kind = WordKind::Other;
 
-    /// Words that fit, to choose from; none where they cannot be listed. A word that is not whole ends in '/' or '='.
+    /// Words that fit, to choose from; none where they cannot be listed. Not all of them are
+    /// whole (terminal/WholeWord.h).
     /// @param words  of this argument up to the one to complete, which is the last
     std::function<std::vector<std::string>(const std::vector<std::string>& words)> choices{};
 };
@@ -48,6 +50,9 @@ struct Command
 
     /// Whether the same node answers alike each time, whatever is around it: only then it can be watched and recorded.
     bool repeatable = true;
+
+    /// Whether a file decides if it is understood.
+    bool needsFile = false;
 };
 
 /// Commands that belong together, under the heading that the help gives them.
@@ -64,6 +69,10 @@ const std::vector<CommandGroup>& commandGroups();
 /// @param name  the name, or the beginning of a single one
 /// @throws InputError when there is none of that name, or several begin so
 const Command& commandNamed(const std::string& name);
+
+/// Whether a recording holds the command, or the one that it carries out.
+/// @throws InputError as commandNamed() does
+bool isRecorded(const std::string& name);
 
 /// The names of all commands.
 std::vector<std::string> commandNames();

@@ -50,6 +50,12 @@ const Command& commandNamed(const std::string& name)
                               fmt::format("more of its name: {}", fmt::join(names, ", ")));
 }
 
+bool isRecorded(const std::string& name)
+{
+    const Command& command = commandNamed(name);
+    return command.repeatable || (!command.arguments.empty() && command.arguments.back().extent == Extent::Command);
+}
+
 std::vector<std::string> commandNames()
 {
     std::vector<std::string> names;

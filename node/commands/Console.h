@@ -44,11 +44,19 @@ public:
     virtual void reached(double share) = 0;
 };
 
-/// The user ended a command before it was done.
-class Interrupted : public CommandError
+/// A command ended before it was done, for a reason that lies outside of the node: nobody can tell from the node alone
+/// how far it came.
+class CutShort : public CommandError
 {
 public:
-    Interrupted() : CommandError("interrupted")
+    using CommandError::CommandError;
+};
+
+/// The user ended a command before it was done.
+class Interrupted : public CutShort
+{
+public:
+    Interrupted() : CutShort("interrupted")
     {
     }
 };
@@ -83,7 +91,7 @@ public:
 
     /// Records what is carried out from the node's start on. @throws InputError when the file cannot be written
     virtual void startRecording(const std::string& file) = 0;
-    /// @throws InputError when nothing is recorded
+    /// @throws InputError when nothing is recorded, CommandError when it could not be written to its end
     virtual void stopRecording() = 0;
 
     /// Ends the node and carries out a recording, on the node that it began with.
@@ -96,7 +104,11 @@ public:
 
     /// Writes trace messages to a file too. @throws InputError when it cannot be written
     virtual void startTraceFile(const std::string& file) = 0;
+    /// @throws InputError when there is none, CommandError when it could not be written to its end
     virtual void stopTraceFile() = 0;
+
+    /// Whether create() would make that file. Leaves what is there as it is.
+    virtual bool canCreate(const std::string& file) = 0;
 
     /// A file to write into; what is there is replaced. Null when it cannot be written.
     virtual std::unique_ptr<std::ostream> create(const std::string& file) = 0;
@@ -104,7 +116,7 @@ public:
     virtual std::unique_ptr<LongRun> beginLongRun() = 0;
 
     /// How much text fits before the user.
-    virtual terminal::Size size() = 0;
+    virtual terminal::Size size() const = 0;
 };
 
 } // namespace node::commands

@@ -1,5 +1,6 @@
 #include "node/commands/Binding.h"
 #include "node/commands/CommandGroups.h"
+#include "node/commands/TraceChannels.h"
 
 namespace node::commands
 {
@@ -8,11 +9,10 @@ namespace
 {
 
 constexpr radio::Ticks DefaultInterval = std::chrono::seconds(2);
-constexpr std::int32_t EveryLevel = 255;
 
 std::string help(Desk& /*desk*/, Console& console, const std::optional<Topic>& topic)
 {
-    return console.help(topic ? topic->topic : "");
+    return console.help(topic ? topic->word : "");
 }
 
 std::string leave(Desk& /*desk*/, Console& console)
@@ -27,8 +27,7 @@ Outcome watch(Desk& /*desk*/, Console& console, const Option<'n', Duration>& int
     const Command& watched = commandNamed(command.words.front());
     if (!watched.repeatable)
     {
-        throw wording::InputError("watch: argument 1 (command)", wording::quoted(watched.name),
-                                  "a command that can be watched");
+        throw Misfit{"command", wording::quoted(watched.name), "a command that can be watched"};
     }
     return {console.watch({command.words, interval.value ? interval.value->ticks : DefaultInterval,
                            rounds.value ? std::optional(rounds.value->number) : std::nullopt}),
@@ -38,7 +37,7 @@ Outcome watch(Desk& /*desk*/, Console& console, const Option<'n', Duration>& int
 
 std::string record(Desk& /*desk*/, Console& console, const FileName& file)
 {
-    console.startRecording(file.name);
+    console.startRecording(file.word);
     return "";
 }
 
@@ -50,19 +49,20 @@ std::string stopRecord(Desk& /*desk*/, Console& console)
 
 Outcome replay(Desk& /*desk*/, Console& console, const RecordingName& file)
 {
-    return console.replay(file.name);
+    return console.replay(file.word);
 }
 
 std::string filterTrace(Desk& /*desk*/, Console& console, const ChannelPattern& channels,
                         const std::optional<TraceLevel>& level)
 {
-    console.filterTrace(channels.pattern, level ? level->level : EveryLevel);
+    traceChannelsLike(channels); // a name that is misspelt would hide everything
+    console.filterTrace(channels.word, level ? level->level : TraceLevel::Highest);
     return "";
 }
 
 std::string traceFile(Desk& /*desk*/, Console& console, const FileName& file)
 {
-    console.startTraceFile(file.name);
+    console.startTraceFile(file.word);
     return "";
 }
 
@@ -81,7 +81,8 @@ CommandGroup consoleCommands()
         {
             makeCommand("help", help, "Print every command, or the arguments of one", {{"topic", "what about"}}),
             makeCommand("watch", watch, "Carry out a command again and again and mark what changes",
-                        {{"seconds", "time from one round to the next, 2s without it"},
+                        {{"seconds", fmt::format("time from one round to the next, {}s without it",
+                                                 radio::seconds(DefaultInterval))},
                          {"count", "number of rounds; without it, until Ctrl-C"},
                          {"command", "what to carry out"}}),
             makeCommand("record", record, "Keep commands and answers in a file, from the node's start on",

@@ -6,6 +6,7 @@
 #include "node/commands/Binding.h"
 #include "node/commands/CommandGroups.h"
 #include "node/commands/LinkText.h"
+#include "node/commands/LongTime.h"
 #include "node/plot/Plot.h"
 #include "node/services/ModulationNames.h"
 
@@ -43,61 +44,37 @@ std::string setDistance(Desk& desk, Distance distance)
     return "";
 }
 
-/// @throws InputError for a channel that the link does not have
-void change(Desk& desk, const std::string& command, ChannelNumber channel,
-            const std::function<void(radio::Channel&)>& apply)
+/// @throws Misfit for a channel that the link does not have
+void change(Desk& desk, ChannelNumber channel, const std::function<void(radio::Channel&)>& apply)
 {
     if (!desk.link().hasChannel(channel.number))
     {
-        throw wording::InputError(command + ": argument 1 (channel)", std::to_string(channel.number),
-                                  "1, for the node has one channel");
+        throw Misfit{"channel", std::to_string(channel.number), "1, for the node has one channel"};
     }
     desk.link().change(channel.number, apply);
 }
 
 std::string setTransmitter(Desk& desk, ChannelNumber channel, Switch state)
 {
-    change(desk, "setTransmitter", channel, [&](radio::Channel& c) { c.transmitter.on = state.on; });
+    change(desk, channel, [&](radio::Channel& c) { c.transmitter.on = state.on; });
     return "";
 }
 
 std::string setXpicCable(Desk& desk, ChannelNumber channel, Switch state)
 {
-    change(desk, "setXpicCable", channel, [&](radio::Channel& c) { c.xpic.cableConnected = state.on; });
+    change(desk, channel, [&](radio::Channel& c) { c.xpic.cableConnected = state.on; });
     return "";
 }
 
 std::string setPpsMaster(Desk& desk, ChannelNumber channel, Switch state)
 {
-    change(desk, "setPpsMaster", channel, [&](radio::Channel& c) { c.ppsMasterAnswers = state.on; });
+    change(desk, channel, [&](radio::Channel& c) { c.ppsMasterAnswers = state.on; });
     return "";
-}
-
-/// Lets time go on step by step.
-/// @param atStep  called after each
-void goOn(radio::RadioLink& link, Console& console, radio::Ticks time, radio::Ticks step,
-          const std::function<void()>& atStep)
-{
-    const auto run = console.beginLongRun();
-    for (radio::Ticks done{0}; done < time;)
-    {
-        const radio::Ticks part = std::min(step, time - done);
-        link.advance(part);
-        done += part;
-        atStep();
-        run->reached(radio::seconds(done) / radio::seconds(time));
-    }
 }
 
 std::string advance(Desk& desk, Console& console, Duration time)
 {
-    constexpr radio::Ticks AtATime = std::chrono::minutes(1);
-    if (time.ticks <= AtATime)
-    {
-        desk.link().advance(time.ticks);
-        return "";
-    }
-    goOn(desk.link(), console, time.ticks, AtATime, [] {});
+    letTimeGoOn(desk.link(), console, time.ticks);
     return "";
 }
 
@@ -106,30 +83,28 @@ void sampleTo(radio::RadioLink& link, Console& console, Duration time, Duration 
               const std::function<void(const std::string&)>& write)
 {
     write(csvHeader() + csvRows(link));
-    goOn(link, console, time.ticks, step.ticks, [&] { write(csvRows(link)); });
+    letTimeGoOn(link, console, time.ticks, step.ticks, [&] { write(csvRows(link)); });
 }
 
 /// The file that a command writes.
 class WrittenFile
 {
 public:
-    /// @param place  of the file's name
-    /// @throws InputError when the file cannot be written
-    WrittenFile(Console& console, const std::string& name, const std::string& place, const std::string& form)
-        : m_name(name), m_output(console.create(name))
+    /// @throws Misfit when the file cannot be written
+    WrittenFile(Console& console, const std::string& name) : m_name(name), m_output(console.create(name))
     {
         if (m_output == nullptr)
         {
-            throw wording::InputError(place, wording::quoted(name), form);
+            throw Misfit{"file", wording::quoted(name)};
         }
     }
 
-    /// @throws CommandError when it is full, or gone
+    /// @throws CutShort when it is full, or gone
     void write(const std::string& text)
     {
         if (!(*m_output << text << std::flush))
         {
-            throw CommandError(wording::quoted(m_name) + " cannot be written any more");
+            throw CutShort(wording::quoted(m_name) + " cannot be written any more");
         }
     }
 
@@ -141,13 +116,13 @@ private:
 std::string sample(Desk& desk, Console& console, Duration time, Duration step, const TableName& file)
 {
     radio::RadioLink& link = desk.link(); // no file is made where there is no link
-    if (file.name == "-")
+    if (file.word == "-")
     {
         std::string table;
         sampleTo(link, console, time, step, [&](const std::string& lines) { table += lines; });
         return table;
     }
-    WrittenFile output(console, file.name, "sample: argument 3 (file)", TableName::form());
+    WrittenFile output(console, file.word);
     sampleTo(link, console, time, step, [&](const std::string& lines) { output.write(lines); });
     return "";
 }
@@ -167,29 +142,57 @@ void addSample(plot::Run& run, const radio::RadioLink& link)
 /// A point for every few letters or pixels: finer steps would not be seen.
 constexpr int PlottedPoints = 600;
 
-std::string drawRun(Desk& desk, Console& console, Duration time, const std::optional<PictureName>& file)
+/// Lets time go on and keeps what is to be drawn of it.
+plot::Run runOf(Desk& desk, Console& console, Duration time)
 {
     radio::RadioLink& link = desk.link();
+    const std::string& description = desk.scenario().description;
+    const std::string title = description.empty() ? "A simulated link" : description.substr(0, description.find('\n'));
+    plot::Run run{title, services::modulationNames(), {}, {}};
+    run.channels.resize(link.numberOfChannels());
+    addSample(run, link);
+    const radio::Ticks step = std::max(time.ticks / PlottedPoints, radio::Ticks(1));
+    letTimeGoOn(link, console, time.ticks, step, [&] { addSample(run, link); });
+    return run;
+}
+
+terminal::Size roomFor(const Console& console)
+{
+    terminal::Size size = console.size();
+    --size.rows; // for the prompt
+    return size;
+}
+
+/// @throws PlotError
+std::string drawOnScreen(Desk& desk, Console& console, Duration time)
+{
+    plot::expectRoom(roomFor(console));
+    return plot::drawText(runOf(desk, console, time), roomFor(console));
+}
+
+/// A picture that is there stays there until the new one is drawn.
+/// @throws PlotError
+void drawInto(const std::string& file, Desk& desk, Console& console, Duration time)
+{
+    if (!console.canCreate(file))
+    {
+        throw Misfit{"file", wording::quoted(file)};
+    }
+    const std::string picture = plot::drawPicture(runOf(desk, console, time), file);
+    WrittenFile(console, file).write(picture);
+}
+
+std::string drawRun(Desk& desk, Console& console, Duration time, const std::optional<PictureName>& file)
+{
+    desk.link(); // no file is made where there is no link
     try
     {
         plot::expectGnuplot(); // before any time has gone
-        const std::string& description = desk.scenario().description;
-        const std::string title =
-            description.empty() ? "A simulated link" : description.substr(0, description.find('\n'));
-        plot::Run run{title, services::modulationNames(), {}, {}};
-        run.channels.resize(link.numberOfChannels());
-        addSample(run, link);
-        const radio::Ticks step = std::max(time.ticks / PlottedPoints, radio::Ticks(1));
         if (!file)
         {
-            goOn(link, console, time.ticks, step, [&] { addSample(run, link); });
-            terminal::Size size = console.size();
-            --size.rows; // for the prompt
-            return plot::drawText(run, size);
+            return drawOnScreen(desk, console, time);
         }
-        WrittenFile output(console, file->name, "plot: argument 2 (file)", PictureName::form());
-        goOn(link, console, time.ticks, step, [&] { addSample(run, link); });
-        output.write(plot::drawPicture(run, file->name));
+        drawInto(file->word, desk, console, time);
     }
     catch (const plot::PlotError& error)
     {
@@ -208,6 +211,11 @@ CommandGroup linkCommands()
         "plot", drawRun, "Let time go on and draw level, SNIR and modulation",
         {{"time", "how long"}, {"file", "picture to write; without it, the drawing is printed in letters"}});
     plot.repeatable = false; // what is drawn is as large as the terminal
+    Command table = makeCommand("sample", sample, "Let time go on and write a table of it (CSV)",
+                                {{"time", "how long"},
+                                 {"step", "time between two samples"},
+                                 {"file", "where to write; what is there is replaced"}});
+    table.needsFile = true;
     return {"The link",
             {
                 makeCommand("showLink", showLink, "Print the link: time, weather, every channel"),
@@ -222,10 +230,7 @@ CommandGroup linkCommands()
                             {channel, {"state", "whether it is plugged"}}),
                 makeCommand("setPpsMaster", setPpsMaster, "Let the far end answer PPS calibrations, or not",
                             {channel, {"state", "whether it answers"}}),
-                makeCommand("sample", sample, "Let time go on and write a table of it (CSV)",
-                            {{"time", "how long"},
-                             {"step", "time between two samples"},
-                             {"file", "where to write; what is there is replaced"}}),
+                table,
                 plot,
             }};
 }

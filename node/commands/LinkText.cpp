@@ -68,13 +68,6 @@ std::string xpicModeText(const Snapshot& channel)
     return "direct";
 }
 
-/// In the platform's numbers: 1 retries, 2 re-acquires, 3 does both.
-std::string xpicOptionText(const Snapshot& channel)
-{
-    const radio::Xpic& xpic = channel.state.xpic;
-    return fmt::format("{}", (xpic.retries ? 1 : 0) + (xpic.reacquires ? 2 : 0));
-}
-
 std::string ppsText(const Snapshot& channel)
 {
     using enum radio::PpsCalibration;
@@ -142,7 +135,7 @@ const std::vector<Row>& rows()
         {"DPD floor", [](const Snapshot& c) { return fixed(c.state.dpd.floor_dB(), 2) + " dB"; }},
         {"XPIC", [](const Snapshot& c) { return services::stateOf(c.state.xpic); }},
         {"XPIC mode", xpicModeText},
-        {"XPIC option", xpicOptionText},
+        {"XPIC option", [](const Snapshot& c) { return fmt::format("{}", services::optionOf(c.state.xpic)); }},
         {"XPIC slave", [](const Snapshot& c) { return c.state.xpic.slaveMuted ? "muted" : "open"; }},
         {"XPIC cable", [](const Snapshot& c) { return onOff(c.state.xpic.cableConnected); }},
         {"XPIC preamble", [](const Snapshot& c) { return fmt::format("{}", c.state.xpic.preamble); }},

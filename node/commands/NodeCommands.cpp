@@ -1,8 +1,8 @@
 #include <fmt/format.h>
-#include <fnmatch.h>
 
 #include "node/commands/Binding.h"
 #include "node/commands/CommandGroups.h"
+#include "node/commands/TraceChannels.h"
 #include "node/scenario/FaultKeys.h"
 #include "node/scenario/Reference.h"
 #include "node/scenario/Scenario.h"
@@ -16,7 +16,7 @@ namespace
 
 std::string loadScenario(Desk& desk, const ScenarioName& name)
 {
-    desk.start(scenario::load(name.nameOrFile));
+    desk.start(scenario::load(name.word));
     return "";
 }
 
@@ -65,9 +65,9 @@ Outcome listScenarios(Desk& /*desk*/)
     return list.outcome;
 }
 
-std::string addFault(Desk& desk, const FaultWords& words)
+std::string addFault(Desk& desk, const TypedFault& typed)
 {
-    desk.faults().add(scenario::typedFault(words.words, "addFault"));
+    desk.faults().add(typed.fault);
     return "";
 }
 
@@ -136,22 +136,9 @@ Outcome listCalls(Desk& /*desk*/)
 
 std::string setTraceLevel(Desk& /*desk*/, const ChannelPattern& pattern, TraceLevel level)
 {
-    bool met = false;
-    std::vector<std::string> names;
-    for (const auto& [name, before] : trace::levels())
+    for (const std::string& name : traceChannelsLike(pattern))
     {
-        names.push_back(name);
-        if (fnmatch(pattern.pattern.c_str(), name.c_str(), 0) == 0)
-        {
-            trace::setLevel(name, level.level);
-            met = true;
-        }
-    }
-    if (!met)
-    {
-        throw wording::InputError("setTraceLevel: argument 1 (channels)", wording::quoted(pattern.pattern),
-                                  "a pattern that fits a channel that \"listTraceLevels\" lists" +
-                                      wording::didYouMean(pattern.pattern, names));
+        trace::setLevel(name, level.level);
     }
     return "";
 }
@@ -173,11 +160,15 @@ CommandGroup nodeCommands()
     Command add = makeCommand("addFault", addFault, "Plan a fault of a platform call",
                               {{"call", "which call, and what shall happen to it", "[KEY=VALUE...]"}});
     add.details = "Keys:\n" + scenario::faultKeyList();
+    Command load = makeCommand("loadScenario", loadScenario, "End the node and start the one of a scenario",
+                               {{"scenario", "which one"}});
+    load.needsFile = true;
+    Command list = makeCommand("listScenarios", listScenarios, "List the ready scenarios");
+    list.repeatable = false; // it tells of a folder, not of the node
     return {"The node",
             {
-                makeCommand("loadScenario", loadScenario, "End the node and start the one of a scenario",
-                            {{"scenario", "which one"}}),
-                makeCommand("listScenarios", listScenarios, "List the ready scenarios"),
+                load,
+                list,
                 add,
                 makeCommand("listFaults", listFaults, "List the planned faults and how often they hit"),
                 makeCommand("clearFaults", clearFaults, "Drop all planned faults"),

@@ -7,10 +7,13 @@
 #include <string_view>
 #include <system_error>
 
+#include <fmt/format.h>
+
 #include "node/commands/Command.h"
 #include "node/plot/Plot.h"
 #include "node/scenario/FaultKeys.h"
 #include "node/scenario/Scenario.h"
+#include "node/terminal/WholeWord.h"
 #include "node/trace/TraceLibrary.h"
 #include "node/wording/InputError.h"
 #include "node/wording/Number.h"
@@ -24,7 +27,7 @@ namespace
 constexpr RadioChannel FirstChannel = 1;
 constexpr RadioChannel LastChannel = 2;
 
-constexpr radio::Ticks LongestTime = std::chrono::hours(100);
+constexpr std::chrono::hours LongestTime(100);
 
 constexpr std::int64_t HighestCount = 1'000'000;
 
@@ -45,28 +48,6 @@ std::optional<double> parseWithin(const std::string& word, radio::Range<double> 
 std::string formOf(radio::Range<double> range, const std::string& unit)
 {
     return wording::numberRange(range.lowest, range.highest) + " (" + unit + ")";
-}
-
-/// The files and folders whose path begins with the word; hidden ones when it names one. A folder ends in '/'.
-std::vector<std::string> pathsBeginning(const std::string& word)
-{
-    namespace fs = std::filesystem;
-    const auto slash = word.rfind('/');
-    const std::string folder = slash == std::string::npos ? "" : word.substr(0, slash + 1);
-    const std::string begin = word.substr(folder.size());
-    std::vector<std::string> paths;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder.empty() ? "." : folder, error);
-         !error && entry != fs::directory_iterator(); entry.increment(error))
-    {
-        const std::string name = entry->path().filename().string();
-        if (name.starts_with(begin) && (!name.starts_with('.') || begin.starts_with('.')))
-        {
-            std::error_code unknown;
-            paths.push_back(folder + name + (entry->is_directory(unknown) ? "/" : ""));
-        }
-    }
-    return paths;
 }
 
 } // namespace
@@ -112,12 +93,17 @@ std::optional<ChannelNumber> ChannelNumber::parse(const std::string& word)
 
 std::vector<std::string> ChannelNumber::choices(const std::string& /*word*/)
 {
-    return {"1", "2"};
+    std::vector<std::string> channels;
+    for (RadioChannel channel = FirstChannel; channel <= LastChannel; ++channel)
+    {
+        channels.push_back(std::to_string(channel));
+    }
+    return channels;
 }
 
 std::string Duration::form()
 {
-    return "a time from 0.1s to 100h in steps of 0.1s, such as 30, 1.5s, 10min or 2h";
+    return fmt::format("a time from 0.1s to {}h in steps of 0.1s, such as 30, 1.5s, 10min or 2h", LongestTime.count());
 }
 
 std::optional<Duration> Duration::parse(const std::string& word)
@@ -125,7 +111,7 @@ std::optional<Duration> Duration::parse(const std::string& word)
     const auto* const unit =
         std::find_if(std::begin(Units), std::end(Units), [&](const Unit& row) { return word.ends_with(row.name); });
     const auto number = wording::parseReal(std::string_view(word).substr(0, word.size() - unit->name.size()));
-    if (!number || *number <= 0.0 || *number * unit->inTicks > static_cast<double>(LongestTime.count()))
+    if (!number || *number <= 0.0 || *number * unit->inTicks > static_cast<double>(radio::Ticks(LongestTime).count()))
     {
         return std::nullopt;
     }
@@ -186,13 +172,34 @@ std::vector<std::string> Switch::choices(const std::string& /*word*/)
 
 std::string TraceLevel::form()
 {
-    return wording::wholeRange(0, 255);
+    return wording::wholeRange(0, Highest);
 }
 
 std::optional<TraceLevel> TraceLevel::parse(const std::string& word)
 {
-    const auto number = parseNumber(word, 0, 255);
+    const auto number = parseNumber(word, 0, Highest);
     return number ? std::optional(TraceLevel{static_cast<std::int32_t>(*number)}) : std::nullopt;
+}
+
+std::vector<std::string> pathsBeginning(const std::string& word)
+{
+    namespace fs = std::filesystem;
+    const auto slash = word.rfind('/');
+    const std::string folder = slash == std::string::npos ? "" : word.substr(0, slash + 1);
+    const std::string begin = word.substr(folder.size());
+    std::vector<std::string> paths;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder.empty() ? "." : folder, error);
+         !error && entry != fs::directory_iterator(); entry.increment(error))
+    {
+        const std::string name = entry->path().filename().string();
+        if (name.starts_with(begin) && (!name.starts_with('.') || begin.starts_with('.')))
+        {
+            std::error_code unknown;
+            paths.push_back(folder + name + (entry->is_directory(unknown) ? "/" : ""));
+        }
+    }
+    return paths;
 }
 
 std::string ScenarioName::form()
@@ -200,14 +207,11 @@ std::string ScenarioName::form()
     return "a name that \"listScenarios\" lists, or a TOML file";
 }
 
-std::optional<ScenarioName> ScenarioName::parse(const std::string& word)
-{
-    return ScenarioName{word};
-}
-
 std::vector<std::string> ScenarioName::choices(const std::string& word)
 {
     std::vector<std::string> names = pathsBeginning(word);
+    std::erase_if(names, [](const std::string& path)
+                  { return terminal::isWhole(path) && !path.ends_with(scenario::FileExtension); });
     try
     {
         const std::vector<std::string> ready = scenario::readyScenarios();
@@ -225,11 +229,6 @@ std::string ChannelPattern::form()
     return "a name, with * for any letters and ? for any one";
 }
 
-std::optional<ChannelPattern> ChannelPattern::parse(const std::string& word)
-{
-    return ChannelPattern{word};
-}
-
 std::vector<std::string> ChannelPattern::choices(const std::string& /*word*/)
 {
     std::vector<std::string> names;
@@ -245,44 +244,14 @@ std::string FileName::form()
     return "a file that can be written";
 }
 
-std::optional<FileName> FileName::parse(const std::string& word)
-{
-    return FileName{word};
-}
-
-std::vector<std::string> FileName::choices(const std::string& word)
-{
-    return pathsBeginning(word);
-}
-
 std::string TableName::form()
 {
     return "a file that can be written, - for standard output";
 }
 
-std::optional<TableName> TableName::parse(const std::string& word)
-{
-    return TableName{word};
-}
-
-std::vector<std::string> TableName::choices(const std::string& word)
-{
-    return pathsBeginning(word);
-}
-
 std::string RecordingName::form()
 {
     return "a file that \"record\" wrote";
-}
-
-std::optional<RecordingName> RecordingName::parse(const std::string& word)
-{
-    return RecordingName{word};
-}
-
-std::vector<std::string> RecordingName::choices(const std::string& word)
-{
-    return pathsBeginning(word);
 }
 
 std::string PictureName::form()
@@ -292,28 +261,18 @@ std::string PictureName::form()
 
 std::optional<PictureName> PictureName::parse(const std::string& word)
 {
-    return plot::isPicture(word) ? std::optional(PictureName{word}) : std::nullopt;
-}
-
-std::vector<std::string> PictureName::choices(const std::string& word)
-{
-    return pathsBeginning(word);
+    return plot::isPicture(word) ? AnyWord::parse(word) : std::nullopt;
 }
 
 std::string Topic::form()
 {
-    return "a command, or scenario";
-}
-
-std::optional<Topic> Topic::parse(const std::string& word)
-{
-    return Topic{word};
+    return fmt::format("a command, or {}", Scenario);
 }
 
 std::vector<std::string> Topic::choices(const std::string& /*word*/)
 {
     std::vector<std::string> topics = commandNames();
-    topics.emplace_back("scenario");
+    topics.emplace_back(Scenario);
     return topics;
 }
 
@@ -328,12 +287,12 @@ std::optional<Count> Count::parse(const std::string& word)
     return number ? std::optional(Count{static_cast<std::uint32_t>(*number)}) : std::nullopt;
 }
 
-std::string FaultWords::form()
+std::string TypedFault::form()
 {
     return "a call that \"listCalls\" lists, then any of the keys";
 }
 
-std::vector<std::string> FaultWords::choices(const std::vector<std::string>& words)
+std::vector<std::string> TypedFault::choices(const std::vector<std::string>& words)
 {
     return scenario::typedFaultChoices(words);
 }

@@ -8,6 +8,7 @@
 
 #include "node/radio/Range.h"
 #include "node/radio/Time.h"
+#include "node/services/FaultPlan.h"
 #include "radio/IDpdControllerSplit.h"
 #include "radio/RadioChannel.h"
 
@@ -15,6 +16,16 @@
 /// words can be chosen, choices() lists those that may stand for the beginning of one.
 namespace node::commands
 {
+
+/// What a word names, for those who must know more than its form.
+enum class WordKind
+{
+    Other,
+    RadioChannel,
+    TraceChannels,
+    Scenario,
+    File,
+};
 
 /// A whole number in decimal or, with 0x before it, hexadecimal digits; none when it is not from `lowest` to `highest`.
 std::optional<std::int64_t> parseNumber(const std::string& word, std::int64_t lowest, std::int64_t highest);
@@ -37,6 +48,8 @@ std::string printCoefficients(const DpdCoeffs& coefficients);
 
 struct ChannelNumber
 {
+    static constexpr WordKind Kind = WordKind::RadioChannel;
+
     static std::string form();
     static std::optional<ChannelNumber> parse(const std::string& word);
     static std::vector<std::string> choices(const std::string& word);
@@ -89,78 +102,92 @@ struct Switch
 
 struct TraceLevel
 {
+    static constexpr std::int32_t Highest = 255;
+
     static std::string form();
     static std::optional<TraceLevel> parse(const std::string& word);
 
     std::int32_t level;
 };
 
-struct ScenarioName
+/// A word of any letters. Its type says what it stands for.
+template <typename Type>
+struct AnyWord
 {
-    static std::string form();
-    static std::optional<ScenarioName> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
+    static std::optional<Type> parse(const std::string& word)
+    {
+        Type parsed;
+        parsed.word = word;
+        return parsed;
+    }
 
-    std::string nameOrFile;
+    std::string word;
 };
 
-struct ChannelPattern
-{
-    static std::string form();
-    static std::optional<ChannelPattern> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
+/// The files and folders whose path begins with the word; hidden ones when it names one. A folder ends in '/'.
+std::vector<std::string> pathsBeginning(const std::string& word);
 
-    std::string pattern;
+/// The name of a file.
+template <typename Type>
+struct AnyFile : AnyWord<Type>
+{
+    static constexpr WordKind Kind = WordKind::File;
+
+    static std::vector<std::string> choices(const std::string& word)
+    {
+        return pathsBeginning(word);
+    }
 };
 
 /// A file to write.
-struct FileName
+struct FileName : AnyFile<FileName>
 {
     static std::string form();
-    static std::optional<FileName> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
-
-    std::string name;
 };
 
 /// A file for a table, or standard output.
-struct TableName
+struct TableName : AnyFile<TableName>
 {
     static std::string form();
-    static std::optional<TableName> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
-
-    std::string name;
 };
 
 /// A recording to read.
-struct RecordingName
+struct RecordingName : AnyFile<RecordingName>
 {
     static std::string form();
-    static std::optional<RecordingName> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
-
-    std::string name;
 };
 
-/// A file for a picture.
-struct PictureName
+/// A file for a picture: one whose end tells of which kind.
+struct PictureName : AnyFile<PictureName>
 {
     static std::string form();
     static std::optional<PictureName> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
-
-    std::string name;
 };
 
-/// What there is help on.
-struct Topic
+/// A ready scenario, or the file of one.
+struct ScenarioName : AnyWord<ScenarioName>
 {
-    static std::string form();
-    static std::optional<Topic> parse(const std::string& word);
-    static std::vector<std::string> choices(const std::string& word);
+    static constexpr WordKind Kind = WordKind::Scenario;
 
-    std::string topic;
+    static std::string form();
+    static std::vector<std::string> choices(const std::string& word);
+};
+
+struct ChannelPattern : AnyWord<ChannelPattern>
+{
+    static constexpr WordKind Kind = WordKind::TraceChannels;
+
+    static std::string form();
+    static std::vector<std::string> choices(const std::string& word);
+};
+
+/// What there is help on: a command, or the keys of a scenario.
+struct Topic : AnyWord<Topic>
+{
+    static constexpr const char* Scenario = "scenario";
+
+    static std::string form();
+    static std::vector<std::string> choices(const std::string& word);
 };
 
 /// How often something is done.
@@ -172,15 +199,15 @@ struct Count
     std::uint32_t number;
 };
 
-/// The words of a fault, all that are left of the line.
-struct FaultWords
+/// A fault of a platform call, typed in all words that are left of the line.
+struct TypedFault
 {
     static std::string form();
 
     /// @param words  of the fault; the last one is to be chosen
     static std::vector<std::string> choices(const std::vector<std::string>& words);
 
-    std::vector<std::string> words;
+    services::Fault fault;
 };
 
 /// A command and its words, all that are left of the line.

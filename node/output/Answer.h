@@ -21,7 +21,7 @@ enum class Status : int
     NotStarted = 3,
 };
 
-/// A trace message and the node's time when it was written.
+/// A trace message and the node's time when the command began whose answer has it.
 struct TimedMessage
 {
     radio::Ticks time{0};
@@ -39,7 +39,8 @@ struct Answer
     Status status = Status::Done;
     std::optional<commands::Outcome> outcome; ///< none where nothing was called, or the call threw
     std::vector<TimedMessage> trace;
-    std::string error; ///< what went wrong, without place; "" where nothing did
+    std::string error;     ///< what went wrong, without place; "" where nothing did
+    bool cutShort = false; ///< it ended before it was done, for a reason that lies outside of the node
 };
 
 } // namespace node::output

@@ -29,7 +29,7 @@ void TextOutput::show(const Answer& answer)
     {
         print(answer.outcome->output);
     }
-    if (m_look.oneScreen)
+    if (m_look.oneScreen())
     {
         closeLine();
     }
@@ -47,7 +47,11 @@ void TextOutput::closeLine()
 
 void TextOutput::interrupted()
 {
-    m_lineIsOpen = m_lineIsOpen || m_look.oneScreen;
+    m_lineIsOpen = m_lineIsOpen || m_look.screen;
+    if (m_look.errorScreen && !m_look.screen)
+    {
+        tell("\n");
+    }
 }
 
 bool TextOutput::good() const

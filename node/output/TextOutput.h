@@ -17,7 +17,14 @@ struct Look
     bool errorColours = false;            ///< of what went wrong
     bool redraws = false;                 ///< a watch draws each round over the one before
     std::function<terminal::Size()> size; ///< of the terminal at the moment; none: 80 by 24
-    bool oneScreen = false;               ///< output and errors meet at a terminal: each has lines of its own there
+    bool screen = false;                  ///< the output goes to a terminal
+    bool errorScreen = false;             ///< what went wrong does
+
+    /// Output and errors meet: each has lines of its own.
+    bool oneScreen() const
+    {
+        return screen && errorScreen;
+    }
 };
 
 /// Answers as text: reports to one stream as the module wrote them, errors and trace messages to the other.

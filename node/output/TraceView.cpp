@@ -1,8 +1,8 @@
 #include "node/output/TraceView.h"
 
+#include <cerrno>
 #include <utility>
 
-#include <fnmatch.h>
 #include <nlohmann/json.hpp>
 
 #include "node/output/Json.h"
@@ -19,7 +19,7 @@ void TraceView::filter(const std::string& channels, std::int32_t level)
 
 bool TraceView::lets(const trace::Message& message) const
 {
-    return message.level <= m_level && fnmatch(m_channels.c_str(), message.channel.c_str(), 0) == 0;
+    return message.level <= m_level && trace::fits(message.channel, m_channels);
 }
 
 void TraceView::open(const std::string& file)
@@ -27,9 +27,12 @@ void TraceView::open(const std::string& file)
     std::ofstream opened(file, std::ios::binary);
     if (!opened)
     {
-        throw wording::InputError("trace file", wording::quoted(file), "a file that can be written");
+        throw wording::InputError(file, wording::foundInsteadOf("folder", {errno, std::generic_category()}),
+                                  "a file to write");
     }
     m_file = std::move(opened);
+    m_name = file;
+    m_isLost = false;
 }
 
 void TraceView::close()
@@ -39,13 +42,24 @@ void TraceView::close()
         throw wording::InputError("trace file", "none", "one that \"traceFile\" has begun");
     }
     m_file.close();
+    m_isLost = !m_file;
+    expectWritten();
 }
 
 void TraceView::write(const TimedMessage& message)
 {
-    if (m_file.is_open())
+    if (m_file.is_open() && !(m_file << toLine(toJson(message)) << std::flush))
     {
-        m_file << toLine(toJson(message)) << std::flush;
+        m_file.close();
+        m_isLost = true;
+    }
+}
+
+void TraceView::expectWritten()
+{
+    if (std::exchange(m_isLost, false))
+    {
+        throw commands::CommandError(wording::quoted(m_name) + " cannot be written any more");
     }
 }
 

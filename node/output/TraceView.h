@@ -13,7 +13,7 @@ namespace node::output
 class TraceView
 {
 public:
-    /// Lets those channels through up to that level, and no others. At first, all.
+    /// Lets those channels through up to that level, and no others. At first, all that a user can choose.
     /// @param channels  a name with * for any letters and ? for any one
     void filter(const std::string& channels, std::int32_t level);
 
@@ -23,15 +23,21 @@ public:
     /// @throws InputError when it cannot be written; the file before, if any, goes on
     void open(const std::string& file);
 
-    /// @throws InputError when there is no file
+    /// @throws InputError when there is no file, CommandError when it could not be written to its end
     void close();
 
+    /// Writes the message to the file, where there is one. A file that cannot be written any more is closed.
     void write(const TimedMessage& message);
+
+    /// @throws CommandError, once, when the file could not be written any more
+    void expectWritten();
 
 private:
     std::string m_channels = "*";
-    std::int32_t m_level = 255;
+    std::int32_t m_level = commands::TraceLevel::Highest;
+    std::string m_name; ///< of the file
     std::ofstream m_file;
+    bool m_isLost = false; ///< the file could not be written any more, which nobody has been told
 };
 
 } // namespace node::output

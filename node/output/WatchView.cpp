@@ -9,6 +9,8 @@
 
 #include "node/commands/Line.h"
 #include "node/commands/LinkText.h"
+#include "node/terminal/Layout.h"
+#include "node/terminal/Letters.h"
 
 namespace node::output
 {
@@ -21,33 +23,26 @@ constexpr const char* Home = "\033[H";
 constexpr const char* ClearToLineEnd = "\033[K";
 constexpr const char* ClearBelow = "\033[J";
 
-constexpr std::size_t MarkWidth = 2;
-
-std::vector<std::string> linesOf(const std::string& text)
-{
-    std::vector<std::string> lines;
-    for (std::size_t begin = 0; begin < text.size();)
-    {
-        const std::size_t end = std::min(text.find('\n', begin), text.size());
-        lines.push_back(text.substr(begin, end - begin));
-        begin = end + 1;
-    }
-    return lines;
-}
+// Marks before a line.
+constexpr const char* Changed = "* ";
+constexpr const char* Same = "  ";
+constexpr int MarkWidth = 2;
 
 /// The line with those letters reversed that differ from the line before.
 std::string reversed(const std::string& line, const std::string& before)
 {
+    const std::wstring letters = terminal::toLetters(line);
+    const std::wstring lettersBefore = terminal::toLetters(before);
+    const auto differs = [&](std::size_t at) { return at >= lettersBefore.size() || letters[at] != lettersBefore[at]; };
     std::string text;
-    for (std::size_t i = 0; i < line.size();)
+    for (std::size_t i = 0; i < letters.size();)
     {
-        const auto differs = [&](std::size_t at) { return at >= before.size() || line[at] != before[at]; };
         std::size_t end = i + 1;
-        while (end < line.size() && differs(end) == differs(i))
+        while (end < letters.size() && differs(end) == differs(i))
         {
             ++end;
         }
-        const std::string part = line.substr(i, end - i);
+        const std::string part = terminal::toBytes(letters.substr(i, end - i));
         text += differs(i) ? fmt::format(fmt::emphasis::reverse, "{}", part) : part;
         i = end;
     }
@@ -63,7 +58,7 @@ WatchView::WatchView(const commands::Watch& watch, TextOutput& output, const Loo
 
 void WatchView::trace(const TimedMessage& message)
 {
-    if (!m_look.redraws)
+    if (!isFrameAll())
     {
         m_output.trace(message);
     }
@@ -71,7 +66,7 @@ void WatchView::trace(const TimedMessage& message)
 
 void WatchView::show(const Answer& answer)
 {
-    const std::vector<std::string> lines = linesOf(answer.outcome ? answer.outcome->output : "");
+    const std::vector<std::string> lines = terminal::linesOf(answer.outcome ? answer.outcome->output : "");
     m_before = m_look.redraws ? draw(answer, lines) : print(answer, lines);
     m_first = false;
 }
@@ -79,49 +74,59 @@ void WatchView::show(const Answer& answer)
 std::vector<std::string> WatchView::print(const Answer& answer, const std::vector<std::string>& lines)
 {
     std::string round = fmt::format("{}{}\n", m_first ? "" : "\n", title(answer));
-    for (const std::string& line : marked(lines))
+    for (const std::string& line : marked(lines, [](const std::string& line) { return line; }))
     {
         round += line + "\n";
     }
     m_output.print(round);
-    Answer rest = answer;
-    rest.outcome.reset();
-    m_output.show(rest);
+    showRest(answer);
     return lines;
 }
 
 std::vector<std::string> WatchView::draw(const Answer& answer, std::vector<std::string> lines)
 {
-    for (const TimedMessage& message : answer.trace)
+    if (isFrameAll())
     {
-        lines.push_back(linesOf(traceText(message)).front());
+        std::string behind;
+        for (const TimedMessage& message : answer.trace)
+        {
+            behind += traceText(message);
+        }
+        const std::vector<std::string> linesBehind = terminal::linesOf(behind + errorText(answer));
+        lines.insert(lines.end(), linesBehind.begin(), linesBehind.end());
     }
-    const std::vector<std::string> error = linesOf(errorText(answer));
-    lines.insert(lines.end(), error.begin(), error.end());
-
     const terminal::Size size = m_look.size ? m_look.size() : terminal::Size();
-    const auto columns = static_cast<std::size_t>(std::max(size.columns, 1));
+    const int columns = std::max(size.columns, 1);
     const auto rows = static_cast<std::size_t>(std::max(size.rows, 3));
-    const std::size_t room = rows - 2; // a line for the title, one for the cursor
-    if (lines.size() > room)
-    {
-        const std::size_t left = lines.size() - room + 1;
-        lines.resize(room - 1);
-        lines.push_back(fmt::format("... {} more lines", left));
-    }
-    for (std::string& line : lines)
-    {
-        line = line.substr(0, columns > MarkWidth ? columns - MarkWidth : 0);
-    }
-    // Each line is cleared before it is drawn: behind its last column, a terminal would clear that column.
-    std::string frame =
-        fmt::format("{}{}{}{}\n", Home, m_first ? ClearBelow : "", ClearToLineEnd, title(answer).substr(0, columns));
-    for (const std::string& line : marked(lines))
+    const auto shown = [columns](const std::string& line) { return terminal::cutToColumns(line, columns - MarkWidth); };
+    // What is above stays to be scrolled to. Each line is cleared before it is drawn: behind its last column, a
+    // terminal would clear that column.
+    std::string frame = fmt::format("{}{}{}{}\n", m_first ? std::string(rows - 1, '\n') : "", Home, ClearToLineEnd,
+                                    terminal::cutToColumns(title(answer), columns));
+    for (const std::string& line :
+         fitted(marked(lines, shown), rows - 2, shown)) // one for the title, one for the cursor
     {
         frame += fmt::format("{}{}\n", ClearToLineEnd, line);
     }
     m_output.draw(frame + ClearBelow);
+    if (!isFrameAll())
+    {
+        showRest(answer);
+    }
     return lines;
+}
+
+/// What is no report: it goes where it always goes.
+void WatchView::showRest(const Answer& answer)
+{
+    Answer rest = answer;
+    rest.outcome.reset();
+    m_output.show(rest);
+}
+
+bool WatchView::isFrameAll() const
+{
+    return m_look.redraws && m_look.oneScreen();
 }
 
 void WatchView::closeLine()
@@ -153,17 +158,34 @@ std::string WatchView::title(const Answer& answer) const
                        commands::clockText(answer.time));
 }
 
-std::vector<std::string> WatchView::marked(const std::vector<std::string>& lines) const
+std::vector<std::string> WatchView::marked(const std::vector<std::string>& lines, const ToShow& shown) const
 {
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < lines.size(); ++i)
     {
         const std::string before = i < m_before.size() ? m_before[i] : "";
         const bool changed = !m_first && (i >= m_before.size() || lines[i] != before);
-        const std::string mark = changed ? "* " : "  ";
-        texts.push_back(mark + (changed && m_look.colours ? reversed(lines[i], before) : lines[i]));
+        const std::string text = shown(lines[i]);
+        texts.push_back((changed ? Changed : Same) +
+                        (changed && m_look.colours ? reversed(text, shown(before)) : text));
     }
     return texts;
+}
+
+/// The marked lines for which there is room, and what is said of the others.
+std::vector<std::string> WatchView::fitted(std::vector<std::string> lines, std::size_t room, const ToShow& shown)
+{
+    if (lines.size() <= room)
+    {
+        return lines;
+    }
+    const auto hidden = lines.begin() + static_cast<std::ptrdiff_t>(room - 1);
+    const bool changed =
+        std::any_of(hidden, lines.end(), [](const std::string& line) { return line.starts_with(Changed); });
+    const auto count = lines.end() - hidden;
+    lines.erase(hidden, lines.end());
+    lines.push_back((changed ? Changed : Same) + shown(fmt::format("... {} more lines", count)));
+    return lines;
 }
 
 } // namespace node::output

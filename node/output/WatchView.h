@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,8 @@ public:
     /// @param output  that the rounds are printed to; borrowed
     WatchView(const commands::Watch& watch, TextOutput& output, const Look& look);
 
-    /// At a terminal a round is drawn with its trace messages; elsewhere they go where they always go.
+    /// Where a round is drawn on the screen that errors go to as well, its trace messages are drawn with it; elsewhere
+    /// they go where they always go.
     void trace(const TimedMessage& message) override;
     void show(const Answer& answer) override;
     void closeLine() override;
@@ -31,7 +33,14 @@ private:
     std::vector<std::string> draw(const Answer& answer, std::vector<std::string> lines);
 
     std::string title(const Answer& answer) const;
-    std::vector<std::string> marked(const std::vector<std::string>& lines) const;
+    using ToShow = std::function<std::string(const std::string& line)>; ///< as much of a line as there is room for
+
+    std::vector<std::string> marked(const std::vector<std::string>& lines, const ToShow& shown) const;
+    static std::vector<std::string> fitted(std::vector<std::string> lines, std::size_t room, const ToShow& shown);
+
+    /// Whether all that is told of a round stands in its frame.
+    bool isFrameAll() const;
+    void showRest(const Answer& answer);
 
     commands::Watch m_watch;
     TextOutput& m_output;

@@ -1,6 +1,7 @@
 #include <array>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "node/plot/Axis.h"
 #include "node/plot/Script.h"

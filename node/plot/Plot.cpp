@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include <fmt/format.h>
+
 #include "node/plot/Gnuplot.h"
 #include "node/plot/Script.h"
 
@@ -11,6 +13,8 @@ namespace node::plot
 
 namespace
 {
+
+constexpr terminal::Size SmallestText = {40, 12};
 
 /// The lines without what gnuplot puts around them: a form feed, blanks up to the width of the drawing.
 std::string tidied(std::string drawing)
@@ -34,6 +38,15 @@ void expectGnuplot()
     runGnuplot("", {"--version"});
 }
 
+void expectRoom(terminal::Size size)
+{
+    if (size.columns < SmallestText.columns || size.rows < SmallestText.rows)
+    {
+        throw PlotError(fmt::format("found room for {} x {} letters, expected {} x {} or more", size.columns, size.rows,
+                                    SmallestText.columns, SmallestText.rows));
+    }
+}
+
 bool isPicture(const std::string& fileName)
 {
     return fileName.ends_with(".svg") || fileName.ends_with(".png");
@@ -41,7 +54,8 @@ bool isPicture(const std::string& fileName)
 
 std::string drawText(const Run& run, terminal::Size size)
 {
-    return tidied(runGnuplot(textScript(run, {std::clamp(size.columns, 40, 400), std::clamp(size.rows, 12, 200)})));
+    expectRoom(size);
+    return tidied(runGnuplot(textScript(run, {std::min(size.columns, 400), std::min(size.rows, 200)})));
 }
 
 std::string drawPicture(const Run& run, const std::string& fileName)

@@ -40,13 +40,17 @@ public:
 /// @throws PlotError when gnuplot is not installed, with the way to get it
 void expectGnuplot();
 
+/// Finds out before anything is drawn whether drawText() has room for it.
+/// @throws PlotError for less than 40 x 12 letters
+void expectRoom(terminal::Size size);
+
 /// Whether a file of that name can be drawn: it ends in ".svg" or ".png".
 bool isPicture(const std::string& fileName);
 
 /// Draws level, SNIR and modulation over time in plain letters, in lines that fit; of what is too much for the rows,
 /// SNIR is left out first, then modulation.
-/// @param size  less than 40 x 12 letters counts as that, more than 400 x 200 as those
-/// @throws PlotError when gnuplot does not do it
+/// @param size  more than 400 x 200 letters counts as those
+/// @throws PlotError when there is no room for it, or gnuplot does not do it
 std::string drawText(const Run& run, terminal::Size size);
 
 /// Draws them as a picture.

@@ -10,6 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "node/terminal/Descriptor.h"
+
 namespace node::plot
 {
 
@@ -30,20 +32,12 @@ class MemoryFile
 public:
     MemoryFile() : m_descriptor(memfd_create("stream", MFD_CLOEXEC))
     {
-        check(m_descriptor < 0 ? errno : 0);
+        check(m_descriptor.isOpen() ? 0 : errno);
     }
-
-    ~MemoryFile()
-    {
-        close(m_descriptor);
-    }
-
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
 
     int descriptor() const
     {
-        return m_descriptor;
+        return m_descriptor.get();
     }
 
     /// Whoever reads then begins at the text's beginning.
@@ -52,7 +46,7 @@ public:
         for (std::size_t written = 0; written < text.size();)
         {
             const ssize_t length =
-                pwrite(m_descriptor, text.data() + written, text.size() - written, static_cast<off_t>(written));
+                pwrite(descriptor(), text.data() + written, text.size() - written, static_cast<off_t>(written));
             check(length < 0 ? errno : 0);
             written += static_cast<std::size_t>(length);
         }
@@ -60,11 +54,11 @@ public:
 
     std::string content() const
     {
-        std::string text(static_cast<std::size_t>(lseek(m_descriptor, 0, SEEK_END)), '\0');
+        std::string text(static_cast<std::size_t>(lseek(descriptor(), 0, SEEK_END)), '\0');
         for (std::size_t read = 0; read < text.size();)
         {
             const ssize_t length =
-                pread(m_descriptor, text.data() + read, text.size() - read, static_cast<off_t>(read));
+                pread(descriptor(), text.data() + read, text.size() - read, static_cast<off_t>(read));
             check(length < 0 ? errno : 0);
             read += static_cast<std::size_t>(length);
         }
@@ -72,7 +66,7 @@ public:
     }
 
 private:
-    int m_descriptor;
+    terminal::Descriptor m_descriptor;
 };
 
 /// How a program starts: where its standard streams lead, and that no signal is kept from it, whatever is from us.

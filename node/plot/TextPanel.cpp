@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "node/plot/Axis.h"
 #include "node/plot/Words.h"

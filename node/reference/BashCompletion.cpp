@@ -1,9 +1,11 @@
 #include "node/reference/BashCompletion.h"
 
-#include <algorithm>
+#include <stdexcept>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
+#include "node/commands/Command.h"
 #include "node/reference/ProgramOptions.h"
 
 namespace node::reference
@@ -41,7 +43,7 @@ _kel_node_plain()
     done
 }
 
-# What the program offers for the last one of these words, into $candidates.
+# What the program offers for the last one of these words, into $candidates; $whole is empty where one is not.
 _kel_node_ask()
 {
     local line='' word candidate
@@ -54,6 +56,7 @@ _kel_node_ask()
     # Without -r, read takes the backslashes off.
     # shellcheck disable=SC2162
     while IFS= read candidate; do
+        [[ $candidate == *\" ]] || whole=''
         candidate=${candidate#\"}
         candidates+=("${candidate%\"}")
     done < <("$program" --complete "$line" 2>/dev/null)
@@ -68,8 +71,7 @@ _kel_node_values()
         quote=none # readline quotes the names of files by itself
         mapfile -t candidates < <(compgen -f -- "$1")
         ;;
-    scenario) _kel_node_ask loadScenario "$1" ;;
-    channels) _kel_node_ask setTraceLevel "$1" ;;
+    'argument of '*) _kel_node_ask "${takes#argument of }" "$1" ;;
     *) mapfile -t candidates < <(compgen -W "$takes" -- "$1") ;;
     esac
 }
@@ -77,7 +79,7 @@ _kel_node_values()
 _kel_node()
 {
     # Readline breaks words at '=' and ':' too, and replaces only what stands behind: $before is what it keeps.
-    local words=() before='' plain='' quote='' piece='' gap i
+    local words=() before='' plain='' quote='' whole=yes piece='' gap i
     local line=${COMP_LINE:0:COMP_POINT}
     for ((i = 0; i <= COMP_CWORD; i++)); do
         gap=${line%%[![:space:]]*}
@@ -130,7 +132,7 @@ _kel_node()
         [[ -z $candidate || -n $quote ]] || printf -v candidate %q "$candidate"
         COMPREPLY+=("$candidate")
     done
-    if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *[/=] ]]; then
+    if [[ ${#COMPREPLY[@]} -eq 1 && -z $whole ]]; then
         compopt -o nospace
     fi
 }
@@ -138,24 +140,33 @@ _kel_node()
 complete -F _kel_node kel-node
 )";
 
-/// What the functions do for a value: a kind of theirs, or the words to choose from.
-std::string kindOf(const std::string& value)
+/// The first command whose first argument names such a thing.
+/// @throws std::logic_error when there is none
+std::string commandThatTakes(commands::WordKind kind)
 {
-    if (value == "FILE")
+    for (const std::string& name : commands::commandNames())
     {
+        const auto& arguments = commands::commandNamed(name).arguments;
+        if (!arguments.empty() && arguments.front().kind == kind)
+        {
+            return name;
+        }
+    }
+    throw std::logic_error("no command takes what an option of the program does");
+}
+
+/// What the functions do for an option's value: offer files, what the program offers for a command, or these words.
+std::string offerFor(const ProgramOption& option)
+{
+    switch (option.kind)
+    {
+    case commands::WordKind::File:
         return "file";
+    case commands::WordKind::Other:
+        return fmt::format("{}", fmt::join(option.choices, " "));
+    default:
+        return "argument of " + commandThatTakes(option.kind);
     }
-    if (value == "NAME|FILE")
-    {
-        return "scenario";
-    }
-    if (value == "CHANNELS[:LEVEL]")
-    {
-        return "channels";
-    }
-    std::string words = value;
-    std::replace(words.begin(), words.end(), '|', ' ');
-    return words;
 }
 
 /// The options and what they take.
@@ -174,7 +185,7 @@ std::string optionPart()
         if (!option.value.empty())
         {
             rows += fmt::format("    {}{}) takes='{}' ;;\n", letter.empty() ? "" : "-" + letter + " | ", name,
-                                kindOf(option.value));
+                                offerFor(option));
         }
     }
     return fmt::format("_kel_node_options='{}'\n"

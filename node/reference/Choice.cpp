@@ -4,6 +4,8 @@
 #include <set>
 
 #include "node/commands/Line.h"
+#include "node/terminal/WholeWord.h"
+#include "node/wording/Letter.h"
 
 namespace node::reference
 {
@@ -11,11 +13,9 @@ namespace node::reference
 namespace
 {
 
-/// Equal letters whatever the process's locale.
 bool equalButForCase(char a, char b)
 {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return lower(a) == lower(b);
+    return wording::lower(a) == wording::lower(b);
 }
 
 } // namespace
@@ -39,9 +39,9 @@ std::vector<std::string> asTypedAfter(const std::string& begun, std::vector<std:
 {
     for (std::string& word : words)
     {
-        const bool goesOn = word.ends_with('/') || word.ends_with('=');
+        const bool whole = terminal::isWhole(word);
         word = begun.starts_with('"') ? commands::inQuotationMarks(word) : commands::asTyped(word);
-        if (goesOn && word.ends_with('"'))
+        if (!whole && word.ends_with('"'))
         {
             word.pop_back();
         }

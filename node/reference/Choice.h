@@ -11,7 +11,7 @@ namespace node::reference
 std::vector<std::string> fitting(const std::vector<std::string>& words, const std::string& typed);
 
 /// The words as they are typed: in quotation marks where they need them, and where the person began with one. Those of
-/// a word that is not whole, which ends in '/' or '=', stay open.
+/// a word that is not whole stay open.
 /// @param begun  what is typed
 std::vector<std::string> asTypedAfter(const std::string& begun, std::vector<std::string> words);
 

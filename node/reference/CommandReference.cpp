@@ -1,10 +1,14 @@
 #include "node/reference/CommandReference.h"
 
+#include <cstddef>
+
 #include <fmt/format.h>
 
 #include "node/commands/Command.h"
 #include "node/reference/Escape.h"
+#include "node/reference/Fill.h"
 #include "node/reference/Help.h"
+#include "node/reference/HowTo.h"
 
 namespace node::reference
 {
@@ -33,13 +37,12 @@ std::string section(const Command& command)
 
 std::string commandReference()
 {
-    std::string text = R"(# Commands
-
-What `kel-node` carries out: on its command line, in a script, at its prompt. The beginning of a name does for the whole
-where no other command begins so. Numbers are decimal, or hexadecimal with 0x before them. A word with blanks in it
-stands in double quotes; between them, a backslash takes the next letter as it is. A line that begins with # is a
-comment.
-)";
+    constexpr std::size_t PageColumns = 120;
+    std::string text = "# Commands\n"
+                       "\n"
+                       "What `kel-node` carries out: on its command line, in a script, at its prompt.\n"
+                       "\n" +
+                       fillText(markdown(HowToType), "", PageColumns);
     for (const CommandGroup& group : commands::commandGroups())
     {
         text += fmt::format("\n## {}\n", markdown(group.heading));

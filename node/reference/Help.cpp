@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <sstream>
 
 #include <fmt/format.h>
 
 #include "node/reference/Fill.h"
+#include "node/reference/HowTo.h"
 #include "node/reference/ProgramOptions.h"
 #include "node/scenario/Reference.h"
+#include "node/wording/InputError.h"
 
 namespace node::reference
 {
@@ -28,8 +29,7 @@ namespace
 std::string row(const std::string& label, const std::string& meaning)
 {
     constexpr std::size_t Column = 27;
-    std::istringstream words(meaning);
-    const std::string lines = fill({std::istream_iterator<std::string>(words), {}}, " ", std::string(Column, ' '));
+    const std::string lines = fillText(meaning, std::string(Column, ' '));
     return fmt::format("  {:<{}} {}", label, Column - 3, lines.substr(Column));
 }
 
@@ -39,6 +39,16 @@ std::string optionList()
     for (const ProgramOption& option : programOptions())
     {
         text += row(usage(option), option.meaning);
+    }
+    return text;
+}
+
+std::string exitStatusList()
+{
+    std::string text;
+    for (const ExitStatus& status : exitStatuses())
+    {
+        text += row(std::to_string(status.number), status.meaning);
     }
     return text;
 }
@@ -56,12 +66,12 @@ std::string overview()
            optionList() + "\n" + commandList() +
            "\n"
            "\"help COMMAND\" prints what a command takes, \"help scenario\" every key of a\n"
-           "scenario file. The beginning of a command's name does for the whole where no\n"
-           "other one begins so. Numbers are decimal, or hexadecimal with 0x before them. A\n"
-           "word with blanks in it stands in double quotes.\n"
+           "scenario file.\n"
+           "\n" +
+           fillText(HowToType, "") +
            "\n"
-           "Exit status: 0 done, 1 a command failed, 2 a line or scenario not understood,\n"
-           "3 the node did not start.\n";
+           "Exit status:\n" +
+           exitStatusList();
 }
 
 std::string commandList()
@@ -115,7 +125,17 @@ std::string usage(const Argument& argument)
 
 std::string helpOn(const std::string& topic)
 {
-    return topic == "scenario" ? scenario::reference() : describe(commandNamed(topic));
+    const std::vector<std::string> topics = commands::Topic::choices(topic);
+    std::vector<std::string> meant;
+    std::copy_if(topics.begin(), topics.end(), std::back_inserter(meant),
+                 [&](const std::string& candidate) { return !topic.empty() && candidate.starts_with(topic); });
+    if (meant.empty())
+    {
+        throw wording::InputError("topic", wording::quoted(topic),
+                                  commands::Topic::form() + wording::didYouMean(topic, topics));
+    }
+    const bool isScenario = meant == std::vector<std::string>{commands::Topic::Scenario};
+    return isScenario ? scenario::reference() : describe(commandNamed(topic));
 }
 
 } // namespace node::reference

@@ -6,7 +6,9 @@
 
 #include "node/commands/Command.h"
 #include "node/reference/Escape.h"
+#include "node/reference/Fill.h"
 #include "node/reference/Help.h"
+#include "node/reference/HowTo.h"
 #include "node/reference/ProgramOptions.h"
 
 namespace node::reference
@@ -33,13 +35,6 @@ At the prompt, the tabulator key completes the word that is typed, and a
 question mark tells what may come next.
 
 Reports go to standard output, trace messages and errors to standard error.
-)";
-
-constexpr const char* HowToType = R"(The beginning of a name does for the whole where no other command begins so.
-Numbers are decimal, or hexadecimal with 0x before them.
-A word with blanks in it stands in double quotes; between them, a backslash
-takes the next letter as it is.
-A line that begins with # is a comment.
 )";
 
 constexpr const char* Scenarios = R"(A scenario says how the node begins: the hop, the weather, the channels, the
@@ -154,15 +149,14 @@ std::string synopsis()
            "...]]\n";
 }
 
-const std::vector<Entry>& exitStatuses()
+std::string exitStatusEntries()
 {
-    static const std::vector<Entry> statuses = {
-        {bold("0"), "All is done."},
-        {bold("1"), "A command failed."},
-        {bold("2"), "A line or a scenario was not understood; nothing of it was done."},
-        {bold("3"), "The node did not start."},
-    };
-    return statuses;
+    std::string text;
+    for (const ExitStatus& status : exitStatuses())
+    {
+        text += entry({bold(std::to_string(status.number)), status.meaning + "."});
+    }
+    return text;
 }
 
 const std::vector<Entry>& environment()
@@ -204,8 +198,8 @@ std::string manPage(const std::string& version, const std::string& date)
     return fmt::format(".TH KEL\\-NODE 1 \"{}\" \"kel-node {}\" \"User Commands\"\n.nh\n.ad l\n", date, version) +
            section("NAME", roff("kel-node - simulated node of a radio link that runs debug commands\n")) +
            section("SYNOPSIS", synopsis()) + section("DESCRIPTION", paragraphs(Description)) +
-           section("OPTIONS", optionEntries()) + section("COMMANDS", paragraphs(HowToType) + commandEntries()) +
-           section("SCENARIOS", paragraphs(Scenarios)) + section("EXIT STATUS", entries(exitStatuses())) +
+           section("OPTIONS", optionEntries()) + section("COMMANDS", roff(fillText(HowToType, "")) + commandEntries()) +
+           section("SCENARIOS", paragraphs(Scenarios)) + section("EXIT STATUS", exitStatusEntries()) +
            section("ENVIRONMENT", entries(environment())) + section("FILES", entries(files())) +
            section("EXAMPLES", exampleParts());
 }

@@ -1,7 +1,8 @@
 #include "node/reference/Place.h"
 
 #include <algorithm>
-#include <cstddef>
+
+#include "node/commands/TypedOptions.h"
 
 namespace node::reference
 {
@@ -26,34 +27,30 @@ std::vector<std::string> carriedOutNames()
 
 Place placeIn(const Command& command, const std::vector<std::string>& words)
 {
+    const commands::TypedOptions typed = commands::readTypedOptions(command, {words.begin(), words.end() - 1});
+    if (typed.unfinished != nullptr)
+    {
+        return {{}, typed.unfinished, {words.back()}, false};
+    }
+
     Place place;
     std::vector<const Argument*> others;
     for (const Argument& argument : command.arguments)
     {
-        (argument.option.empty() ? others : place.options).push_back(&argument);
+        const auto isThis = [&](const commands::TypedOption& option) { return option.argument == &argument; };
+        if (argument.option.empty())
+        {
+            others.push_back(&argument);
+        }
+        else if (typed.mayGoOn && std::none_of(typed.options.begin(), typed.options.end(), isThis))
+        {
+            place.options.push_back(&argument);
+        }
     }
 
-    auto word = words.begin();
-    const auto typed = words.end() - 1;
-    while (word != typed)
-    {
-        const auto option = std::find_if(place.options.begin(), place.options.end(),
-                                         [&](const Argument* argument) { return argument->option == *word; });
-        if (option == place.options.end())
-        {
-            place.options.clear(); // they stand before all others
-            break;
-        }
-        if (++word == typed)
-        {
-            return {{}, *option, {*typed}, false};
-        }
-        place.options.erase(option);
-        ++word;
-    }
-
+    auto word = typed.others.begin();
     auto argument = others.begin();
-    while (word != typed && argument != others.end() && (*argument)->extent == Extent::Word)
+    while (word != typed.others.end() && argument != others.end() && (*argument)->extent == Extent::Word)
     {
         ++word;
         ++argument;
@@ -64,8 +61,9 @@ Place placeIn(const Command& command, const std::vector<std::string>& words)
         return place;
     }
     place.argument = *argument;
-    place.words.assign(word, words.end());
-    place.mayEnd = place.argument->optional || word != typed;
+    place.mayEnd = place.argument->optional || word != typed.others.end();
+    place.words.assign(word, typed.others.end());
+    place.words.push_back(words.back());
     return place;
 }
 

@@ -17,8 +17,6 @@ namespace node::scenario
 namespace
 {
 
-constexpr const char* Extension = ".toml";
-
 fs::path folder()
 {
     const char* const chosen = std::getenv("KEL_NODE_SCENARIOS");
@@ -58,7 +56,7 @@ std::vector<std::string> readyScenarios()
          entry.increment(error))
     {
         const std::string name = entry->path().stem().string();
-        if (entry->path().extension() == Extension && !name.ends_with(Extension)) // that would be a file's name
+        if (entry->path().extension() == FileExtension && !name.ends_with(FileExtension)) // that would be a file's name
         {
             names.push_back(name);
         }
@@ -74,7 +72,7 @@ std::vector<std::string> readyScenarios()
 
 Scenario load(const std::string& nameOrFile)
 {
-    if (nameOrFile.find('/') != std::string::npos || nameOrFile.ends_with(Extension))
+    if (nameOrFile.find('/') != std::string::npos || nameOrFile.ends_with(FileExtension))
     {
         return parse(readFile(nameOrFile), nameOrFile);
     }
@@ -82,10 +80,10 @@ Scenario load(const std::string& nameOrFile)
     if (std::find(names.begin(), names.end(), nameOrFile) == names.end())
     {
         throw wording::InputError("scenario", wording::quoted(nameOrFile),
-                                  "a file, or a name that \"listScenarios\" lists" +
+                                  "a .toml file, or a name that \"listScenarios\" lists" +
                                       wording::didYouMean(nameOrFile, names));
     }
-    const std::string fileName = (folder() / (nameOrFile + Extension)).string();
+    const std::string fileName = (folder() / (nameOrFile + FileExtension)).string();
     return parse(readFile(fileName), fileName);
 }
 

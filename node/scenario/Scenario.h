@@ -23,6 +23,9 @@ struct Scenario
 ///         first one
 Scenario parse(const std::string& text, const std::string& fileName);
 
+/// What the name of a scenario file ends in.
+constexpr const char* FileExtension = ".toml";
+
 /// Loads a scenario by the name of a ready one, or from a file: a word with '/' in it, or ending in ".toml".
 /// @throws InputError as parse(), and when there is no such scenario or the file cannot be read
 Scenario load(const std::string& nameOrFile);

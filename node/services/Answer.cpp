@@ -5,6 +5,14 @@
 namespace node::services
 {
 
+namespace
+{
+
+constexpr std::uint32_t Retries = 1;
+constexpr std::uint32_t Reacquires = 2;
+
+} // namespace
+
 std::string unknownChannel(RadioChannel channel, const radio::RadioLink& link)
 {
     return "radio channel: found " + std::to_string(channel) +
@@ -28,6 +36,17 @@ std::string stateOf(const radio::Xpic& xpic)
         break;
     }
     return "Lost";
+}
+
+std::uint32_t optionOf(const radio::Xpic& xpic)
+{
+    return (xpic.retries ? Retries : 0) | (xpic.reacquires ? Reacquires : 0);
+}
+
+void setOption(radio::Xpic& xpic, std::uint32_t option)
+{
+    xpic.retries = (option & Retries) != 0;
+    xpic.reacquires = (option & Reacquires) != 0;
 }
 
 std::int32_t hundredths(double decibels)

@@ -18,10 +18,6 @@ using node::radio::Channel;
 using node::radio::RadioLink;
 using node::services::refuse;
 
-// Options of an acquisition, in one number.
-constexpr std::uint32_t RetryOption = 1;
-constexpr std::uint32_t ReacquireOption = 2;
-
 /// Gains of the slave's receiver, which bring its signal to the reference level: the external one first. Assumed.
 constexpr double ReferenceLevel_dBm = -20.0;
 constexpr double HighestExternalGain_dB = 30.0;
@@ -69,10 +65,8 @@ void carryOut(const TiManageXpic::Command& command, Channel& channel)
     }
     if (command.AcquireStart.present && command.AcquireStart.value)
     {
-        const auto option = static_cast<std::uint32_t>(command.AcquireOption.value);
         channel.xpic.mode = static_cast<node::radio::XpicAcquireMode>(command.AcquireMode.value);
-        channel.xpic.retries = (option & RetryOption) != 0;
-        channel.xpic.reacquires = (option & ReacquireOption) != 0;
+        node::services::setOption(channel.xpic, static_cast<std::uint32_t>(command.AcquireOption.value));
         channel.xpic.startAcquisition();
     }
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "node/terminal/Layout.h"
+#include "node/terminal/WholeWord.h"
 
 namespace node::terminal
 {
@@ -51,9 +52,8 @@ unsigned char HelperKeys::complete()
     }
     if (words.size() == 1)
     {
-        const bool isWhole = !words.front().ends_with('/') && !words.front().ends_with('=');
         m_line.replaceFrom(begin, words.front());
-        if (isWhole && !m_line.passBlank())
+        if (isWhole(words.front()) && !m_line.passBlank())
         {
             m_line.insert(" ");
         }

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <iterator>
-#include <sstream>
 #include <utility>
 
 #include <fcntl.h>
@@ -10,6 +9,7 @@
 #include <sys/stat.h>
 
 #include "node/terminal/Descriptor.h"
+#include "node/terminal/Layout.h"
 
 namespace node::terminal
 {
@@ -57,17 +57,6 @@ std::string contentOf(const Descriptor& file)
         content.append(part.data(), static_cast<std::size_t>(size));
     }
     return content;
-}
-
-std::vector<std::string> linesOf(const std::string& content)
-{
-    std::vector<std::string> lines;
-    std::istringstream text(content);
-    for (std::string line; std::getline(text, line);)
-    {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 /// Overwrites before it cuts: whoever is stopped half way leaves lines twice, and loses none.

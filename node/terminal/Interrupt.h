@@ -2,13 +2,13 @@
 
 #include <chrono>
 
-#include <csignal>
+#include "node/terminal/HeldSignals.h"
 
 namespace node::terminal
 {
 
-/// While one exists, Ctrl-C (SIGINT) is noted here instead of ending the program. Made and used by one thread, the only
-/// one of the program that lets signals through.
+/// While one exists, Ctrl-C (SIGINT) is noted here instead of ending the program. Made and used as HeldSignals are. One
+/// may exist inside of another: each Ctrl-C is told by the first that is asked.
 class Interrupt
 {
 public:
@@ -28,8 +28,7 @@ public:
     int descriptor() const;
 
 private:
-    sigset_t m_before{};
-    int m_signals = -1;
+    HeldSignals m_signals;
 };
 
 } // namespace node::terminal

@@ -3,14 +3,16 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <initializer_list>
 #include <system_error>
+#include <vector>
 
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/signalfd.h>
 #include <unistd.h>
 
 #include "node/terminal/Letters.h"
+#include "node/terminal/StandardInput.h"
 
 namespace node::terminal
 {
@@ -18,53 +20,50 @@ namespace node::terminal
 namespace
 {
 
-sigset_t sizeChanges()
+Descriptor openAlarm()
 {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGWINCH);
-    return signals;
-}
-
-int opened(int descriptor, const char* what)
-{
-    if (descriptor < 0)
+    Descriptor alarm(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC));
+    if (!alarm.isOpen())
     {
-        throw std::system_error(errno, std::generic_category(), what);
+        throw std::system_error(errno, std::generic_category(), "eventfd");
     }
-    return descriptor;
+    return alarm;
 }
 
-int openSignals(const sigset_t& signals)
+/// Those signals that the program was not started to ignore.
+std::vector<int> notIgnored(std::initializer_list<int> candidates)
 {
-    return opened(signalfd(-1, &signals, SFD_NONBLOCK | SFD_CLOEXEC), "signalfd");
+    std::vector<int> signals;
+    for (const int signal : candidates)
+    {
+        struct sigaction action = {};
+        if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN)
+        {
+            signals.push_back(signal);
+        }
+    }
+    return signals;
 }
 
 } // namespace
 
-SizeChange::SizeChange() : m_signals(openSignals(sizeChanges()))
+Keyboard::Line::Line(Keyboard& keyboard) : m_keyboard(keyboard)
 {
-    const sigset_t signals = sizeChanges();
-    pthread_sigmask(SIG_BLOCK, &signals, &m_before);
+    if (m_keyboard.m_interrupt.happened())
+    {
+        m_keyboard.m_bytes.clear();
+    }
+    m_keyboard.m_endingSignals.emplace(notIgnored({SIGHUP, SIGQUIT, SIGTERM}));
+    m_keyboard.m_stopSignals.emplace(notIgnored({SIGTSTP}));
 }
 
-SizeChange::~SizeChange()
+Keyboard::Line::~Line()
 {
-    pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    m_keyboard.m_stopSignals.reset();
+    m_keyboard.m_endingSignals.reset();
 }
 
-bool SizeChange::happened()
-{
-    signalfd_siginfo signal{};
-    return read(m_signals.get(), &signal, sizeof signal) == sizeof signal;
-}
-
-int SizeChange::descriptor() const
-{
-    return m_signals.get();
-}
-
-Keyboard::Keyboard() : m_alarm(opened(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC), "eventfd"))
+Keyboard::Keyboard() : m_sizeChanges({SIGWINCH}), m_continuations({SIGCONT}), m_alarm(openAlarm())
 {
 }
 
@@ -73,8 +72,13 @@ Keyboard::Event Keyboard::wait(wchar_t& letter)
     for (;;)
     {
         const Letter next = firstLetter(m_bytes);
-        std::array<pollfd, 4> ready{{{m_interrupt.descriptor(), POLLIN, 0},
-                                     {m_sizeChange.descriptor(), POLLIN, 0},
+        const auto held = [](const std::optional<HeldSignals>& signals)
+        { return signals ? signals->descriptor() : -1; };
+        std::array<pollfd, 7> ready{{{held(m_endingSignals), POLLIN, 0},
+                                     {m_interrupt.descriptor(), POLLIN, 0},
+                                     {held(m_stopSignals), POLLIN, 0},
+                                     {m_continuations.descriptor(), POLLIN, 0},
+                                     {m_sizeChanges.descriptor(), POLLIN, 0},
                                      {m_alarm.get(), POLLIN, 0},
                                      {STDIN_FILENO, POLLIN, 0}}};
         if (poll(ready.data(), ready.size(), next.size > 0 ? 0 : -1) < 0)
@@ -82,17 +86,29 @@ Keyboard::Event Keyboard::wait(wchar_t& letter)
             continue; // a signal came that is not ours
         }
         // What is no letter comes first: a long paste does not hold up Ctrl-C.
-        if (ready[0].revents != 0 && m_interrupt.happened())
+        if (ready[0].revents != 0)
+        {
+            return Event::End; // the signal waits, and ends the program when the line has been left
+        }
+        if (ready[1].revents != 0 && m_interrupt.happened())
         {
             m_bytes.clear();
             return Event::Interrupted;
         }
-        if (ready[1].revents != 0 && m_sizeChange.happened())
+        if (ready[2].revents != 0)
+        {
+            return Event::Stopping;
+        }
+        if (ready[3].revents != 0 && m_continuations.take())
+        {
+            return Event::Continued;
+        }
+        if (ready[4].revents != 0 && m_sizeChanges.take())
         {
             return Event::Resized;
         }
         eventfd_t rings = 0;
-        if (ready[2].revents != 0 && eventfd_read(m_alarm.get(), &rings) == 0)
+        if (ready[5].revents != 0 && eventfd_read(m_alarm.get(), &rings) == 0)
         {
             return Event::Woken;
         }
@@ -102,36 +118,22 @@ Keyboard::Event Keyboard::wait(wchar_t& letter)
             letter = next.value;
             return Event::Letter;
         }
-        if (ready[3].revents != 0 && !readMore())
+        if (ready[6].revents != 0 && !readInput(m_bytes))
         {
             return Event::End;
         }
     }
 }
 
-void Keyboard::dropInterrupted()
+void Keyboard::stop()
 {
-    if (m_interrupt.happened())
-    {
-        m_bytes.clear();
-    }
+    m_stopSignals->act();
+    m_continuations.take();
 }
 
 void Keyboard::wake()
 {
     eventfd_write(m_alarm.get(), 1);
-}
-
-bool Keyboard::readMore()
-{
-    std::array<char, 4096> bytes{};
-    const ssize_t size = read(STDIN_FILENO, bytes.data(), bytes.size());
-    if (size < 0 && (errno == EINTR || errno == EAGAIN))
-    {
-        return true;
-    }
-    m_bytes.append(bytes.data(), static_cast<std::size_t>(size > 0 ? size : 0));
-    return size > 0;
 }
 
 } // namespace node::terminal

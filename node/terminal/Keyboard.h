@@ -1,32 +1,14 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "node/terminal/Descriptor.h"
+#include "node/terminal/HeldSignals.h"
 #include "node/terminal/Interrupt.h"
 
 namespace node::terminal
 {
-
-/// Notes that the terminal's size changes (SIGWINCH). Made and used as Interrupt is.
-class SizeChange
-{
-public:
-    SizeChange();
-    SizeChange(const SizeChange&) = delete;
-    SizeChange& operator=(const SizeChange&) = delete;
-    ~SizeChange();
-
-    /// Whether the size changed since the last call.
-    bool happened();
-
-    /// Readable while a change is noted that happened() has not told.
-    int descriptor() const;
-
-private:
-    sigset_t m_before{};
-    Descriptor m_signals;
-};
 
 /// Waits for what happens while a line is typed: a letter on standard input, or an event that is none.
 class Keyboard
@@ -34,32 +16,49 @@ class Keyboard
 public:
     Keyboard();
 
+    /// A line that is typed, for as long as it is. Forgets a Ctrl-C that came before it, and the letters that were
+    /// typed ahead of that. Signals wait, so that the terminal can be left as it was: those that end the program
+    /// (SIGHUP, SIGQUIT, SIGTERM) end the line and act when this is gone, Ctrl-Z (SIGTSTP) acts at stop().
+    class Line
+    {
+    public:
+        explicit Line(Keyboard& keyboard);
+        Line(const Line&) = delete;
+        Line& operator=(const Line&) = delete;
+        ~Line();
+
+    private:
+        Keyboard& m_keyboard;
+    };
+
     enum class Event
     {
         Letter,
         Interrupted, ///< Ctrl-C; letters that came before and were not asked for are dropped
         Resized,     ///< the terminal's size changed
+        Stopping,    ///< Ctrl-Z: to be followed by stop()
+        Continued,   ///< after a stop that nobody was asked about
         Woken,       ///< by wake()
-        End,         ///< standard input has ended
+        End,         ///< standard input has ended, or the program is about to
     };
 
     /// Waits for the next event. @param letter  what was typed, for Event::Letter
     Event wait(wchar_t& letter);
 
-    /// Forgets a Ctrl-C that came before the line, and the letters that were typed ahead of it.
-    void dropInterrupted();
+    /// Stops the program, until somebody lets it go on.
+    void stop();
 
     /// Lets wait() return. May be called from any thread.
     void wake();
 
 private:
-    /// @return false at the end of standard input
-    bool readMore();
-
     Interrupt m_interrupt;
-    SizeChange m_sizeChange;
-    Descriptor m_alarm;  ///< that wake() rings
-    std::string m_bytes; ///< that were read and not taken yet
+    HeldSignals m_sizeChanges;
+    HeldSignals m_continuations;
+    Descriptor m_alarm;                         ///< that wake() rings
+    std::string m_bytes;                        ///< that were read and not taken yet
+    std::optional<HeldSignals> m_endingSignals; ///< while a line is typed, as the next
+    std::optional<HeldSignals> m_stopSignals;
 };
 
 } // namespace node::terminal

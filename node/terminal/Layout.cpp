@@ -87,6 +87,16 @@ private:
     int m_column = 0;
 };
 
+/// What is shown of a letter that comes to stand in this column.
+std::wstring shapeOf(wchar_t letter, int column)
+{
+    if (letter == L'\t')
+    {
+        return std::wstring(static_cast<std::size_t>(TabulatorColumns - column % TabulatorColumns), L' ');
+    }
+    return wcwidth(letter) < 0 || letter == 0 ? L"?" : std::wstring(1, letter);
+}
+
 int widthOf(const std::string& word)
 {
     const std::wstring letters = toLetters(word);
@@ -111,6 +121,36 @@ std::wstring withoutEscapes(const std::wstring& prompt)
         }
     }
     return shown;
+}
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    for (std::size_t begin = 0; begin < text.size();)
+    {
+        const std::size_t end = std::min(text.find('\n', begin), text.size());
+        lines.push_back(text.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    return lines;
+}
+
+std::string cutToColumns(const std::string& line, int columns)
+{
+    std::wstring shown;
+    int column = 0;
+    for (const wchar_t letter : toLetters(line))
+    {
+        const std::wstring shape = shapeOf(letter, column);
+        const int width = wcswidth(shape.c_str(), shape.size());
+        if (column + width > columns)
+        {
+            break;
+        }
+        shown += shape;
+        column += width;
+    }
+    return toBytes(shown);
 }
 
 int rowBehind(const std::wstring& shown, int columns)

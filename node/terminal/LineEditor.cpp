@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <mutex>
@@ -11,6 +10,7 @@
 
 #include <histedit.h>
 
+#include "node/terminal/Environment.h"
 #include "node/terminal/HelperKeys.h"
 #include "node/terminal/History.h"
 #include "node/terminal/Keyboard.h"
@@ -79,6 +79,8 @@ private:
     template <typename Result, typename Step>
     Result guard(Result otherwise, const Step& step);
     bool waitForLetter(wchar_t& letter);
+    void stop();
+    void goOn();
     std::string takeQueue();
 
     History m_history;
@@ -129,7 +131,7 @@ LineEditor::Typed LineEditor::Implementation::read(const std::string& prompt)
     m_shown.setPrompt(prompt);
     m_isInterrupted = false;
     m_keys.begin();
-    m_keyboard.dropInterrupted();
+    const Keyboard::Line untilReturn(m_keyboard);
     // libedit alone does this behind its prompt: what is typed at once would be shown twice.
     el_set(m_editor.get(), EL_PREP_TERM, 1);
     {
@@ -236,6 +238,12 @@ bool LineEditor::Implementation::waitForLetter(wchar_t& letter)
         case Keyboard::Event::Resized:
             m_shown.resize();
             break;
+        case Keyboard::Event::Stopping:
+            stop();
+            break;
+        case Keyboard::Event::Continued:
+            goOn();
+            break;
         case Keyboard::Event::Woken:
             m_shown.printAbove(takeQueue());
             break;
@@ -243,6 +251,24 @@ bool LineEditor::Implementation::waitForLetter(wchar_t& letter)
             return false;
         }
     }
+}
+
+/// Whoever has the terminal meanwhile finds it as it was.
+void LineEditor::Implementation::stop()
+{
+    m_shown.printBehind("\n");
+    std::fflush(stdout);
+    el_set(m_editor.get(), EL_PREP_TERM, 0);
+    m_keyboard.stop();
+    goOn();
+}
+
+/// The terminal may have been left in any state.
+void LineEditor::Implementation::goOn()
+{
+    el_set(m_editor.get(), EL_PREP_TERM, 1);
+    std::fputc('\r', stdout);
+    m_shown.draw();
 }
 
 std::string LineEditor::Implementation::takeQueue()
@@ -270,11 +296,6 @@ void LineEditor::print(const std::string& text)
 
 std::string stateFolder(const std::string& program)
 {
-    const auto variable = [](const char* name)
-    {
-        const char* const value = std::getenv(name);
-        return std::filesystem::path(value == nullptr ? "" : value);
-    };
     const std::filesystem::path state = variable("XDG_STATE_HOME");
     if (state.is_absolute())
     {

@@ -53,7 +53,8 @@ public:
     };
 
     /// Shows the prompt and lets a line be typed. Afterwards the cursor is at the beginning of a row. What the helper
-    /// throws ends the line and is thrown here.
+    /// throws ends the line and is thrown here. A signal that ends the program does so when the line has been left and
+    /// the terminal is as it was.
     /// @param prompt  may hold escape sequences of a colour, each between two bytes 0x01; none at its end, where
     ///                it would be lost
     Typed read(const std::string& prompt);

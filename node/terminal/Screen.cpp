@@ -1,24 +1,12 @@
 #include "node/terminal/Screen.h"
 
-#include <cstdlib>
-#include <string_view>
-
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include "node/terminal/Environment.h"
+
 namespace node::terminal
 {
-
-namespace
-{
-
-std::string_view variable(const char* name)
-{
-    const char* const value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
-
-} // namespace
 
 bool hasColours(int descriptor)
 {

@@ -1,5 +1,6 @@
 #include "node/terminal/ShownLine.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "node/terminal/Layout.h"
@@ -50,7 +51,7 @@ bool ShownLine::passBlank()
 
 void ShownLine::printAbove(const std::string& text)
 {
-    erase();
+    erase(row());
     std::fwrite(text.data(), 1, text.size(), stdout);
     draw();
 }
@@ -61,7 +62,7 @@ void ShownLine::printBehind(const std::string& text)
     const auto lettersBehind = static_cast<int>(line->lastchar - line->cursor);
     if (lettersBehind > 0)
     {
-        erase();
+        erase(row());
         el_cursor(m_editor, lettersBehind);
         draw();
         el_cursor(m_editor, -lettersBehind);
@@ -74,10 +75,13 @@ void ShownLine::draw()
     el_set(m_editor, EL_REFRESH);
 }
 
+/// Some terminals break a long line anew at their new width, others leave it. Moving up by the smaller number of rows
+/// never takes away what is above the line.
 void ShownLine::resize()
 {
-    erase();
+    const int before = row();
     el_resize(m_editor);
+    erase(std::min(before, row()));
     draw();
 }
 
@@ -89,7 +93,8 @@ int ShownLine::columns() const
 }
 
 /// Lets the terminal's cursor stand where the prompt began, on an empty row.
-void ShownLine::erase()
+/// @param rowsAbove  from there to the cursor
+void ShownLine::erase(int rowsAbove)
 {
     if (!can("up") || !can("cd"))
     {
@@ -97,7 +102,7 @@ void ShownLine::erase()
         return;
     }
     std::fputc('\r', stdout);
-    for (int above = row(); above > 0; --above)
+    for (int above = rowsAbove; above > 0; --above)
     {
         el_set(m_editor, EL_ECHOTC, "up", nullptr);
     }

@@ -51,7 +51,7 @@ public:
     int columns() const;
 
 private:
-    void erase();
+    void erase(int rowsAbove);
     bool can(const char* capability) const;
     int row() const;
 

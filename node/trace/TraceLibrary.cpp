@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <utility>
 
+#include <fnmatch.h>
+
 #include "node/trace/Registry.h"
 
 namespace node::trace
@@ -21,6 +23,11 @@ std::string toLine(const Message& message)
         line += '\n';
     }
     return line;
+}
+
+bool fits(const std::string& channel, const std::string& pattern)
+{
+    return fnmatch(pattern.c_str(), channel.c_str(), 0) == 0;
 }
 
 Sink setSink(Sink sink)

@@ -41,6 +41,9 @@ void setLevel(const std::string& channel, VemTraceLevel level);
 /// The channels known by name, with their levels.
 std::map<std::string, VemTraceLevel> levels();
 
+/// Whether a channel's name fits a pattern: * stands for any letters, ? for any one.
+bool fits(const std::string& channel, const std::string& pattern);
+
 /// Completes the message that the calling thread began and neither flushed nor ended; nothing where there is none.
 void completeOpenMessage();
 

@@ -6,16 +6,13 @@
 
 #include <fmt/format.h>
 
+#include "node/wording/Letter.h"
+
 namespace node::wording
 {
 
 namespace
 {
-
-char lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 /// Levenshtein's distance: how many letters must be put in, taken out or changed to make one word of the other.
 std::size_t distance(std::string_view from, std::string_view to)
@@ -65,13 +62,20 @@ std::string foundInsteadOf(const std::string& what, const std::error_code& reaso
     }
     if (reason == std::errc::permission_denied)
     {
-        return "no permission to read it";
+        return "no permission";
     }
-    return "it unreadable (" + reason.message() + ")";
+    return "it unusable (" + reason.message() + ")";
 }
 
 std::string didYouMean(const std::string& word, const std::vector<std::string>& candidates)
 {
+    const auto begins = [&](const std::string& candidate)
+    { return !word.empty() && distance(word, std::string_view(candidate).substr(0, word.size())) == 0; };
+    const auto beginning = std::find_if(candidates.begin(), candidates.end(), begins);
+    if (beginning != candidates.end() && std::find_if(beginning + 1, candidates.end(), begins) == candidates.end())
+    {
+        return fmt::format(" (did you mean {}?)", *beginning);
+    }
     std::size_t closest = std::max<std::size_t>(1, word.size() / 3) + 1;
     std::string suggestion;
     for (const std::string& candidate : candidates)

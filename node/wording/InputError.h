@@ -19,10 +19,11 @@ std::string wholeRange(std::int64_t lowest, std::int64_t highest);
 /// "a number from 0.1 to 100"
 std::string numberRange(double lowest, double highest);
 
-/// What stands where a file or a folder was to be read: "no such file".
+/// What stands where a file or a folder was to be read or written: "no such file".
 std::string foundInsteadOf(const std::string& what, const std::error_code& reason);
 
-/// " (did you mean ...?)" with the candidate that is spelt most alike; "" when none is close. Case does not count.
+/// " (did you mean ...?)" with the only candidate that begins with the word, or the one that is spelt most alike; ""
+/// when none is close. Case does not count.
 std::string didYouMean(const std::string& word, const std::vector<std::string>& candidates);
 
 /// Input that cannot be used. Nothing was done with it.

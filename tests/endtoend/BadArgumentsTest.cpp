@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"setDpdCoefficients 1 00010203", R"(setDpdCoefficients: argument 2 (coefficients): found "00010203", )"
                                              "expected 20 bytes as 40 hexadecimal digits"},
         Row{"help getCtState",
-            R"(command: found "getCtState", expected one that "help" lists (did you mean getCtStatus?))"},
+            R"(topic: found "getCtState", expected a command, or scenario (did you mean getCtStatus?))"},
         Row{"advance 0",
             R"(advance: argument 1 (time): found "0", expected a time from 0.1s to 100h in steps of 0.1s, )"
             "such as 30, 1.5s, 10min or 2h"},
@@ -72,8 +72,9 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"setTransmitter 1 maybe", R"(setTransmitter: argument 2 (state): found "maybe", expected on or off)"},
         Row{"addFault tiManageXpic calls=0",
             R"(addFault: calls: found "0", expected a whole number from 1 to 4294967295)"},
-        Row{"loadScenario rainfront", R"(scenario: found "rainfront", expected a file, or a name that "listScenarios" )"
-                                      "lists (did you mean rain-front?)"},
+        Row{"loadScenario rainfront",
+            R"(scenario: found "rainfront", expected a .toml file, or a name that "listScenarios" )"
+            "lists (did you mean rain-front?)"},
         Row{"help startDpd stopDpd", R"(help: argument 2: found "stopDpd", expected nothing more)"},
         Row{"--bogus", R"(option: found "--bogus", expected one that "kel-node --help" lists)"},
         Row{"--help=yes", R"(option: found "--help=yes", expected one that "kel-node --help" lists)"},

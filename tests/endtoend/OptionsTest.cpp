@@ -51,17 +51,18 @@ INSTANTIATE_TEST_SUITE_P(
         Row{{"--clock=sun"}, R"(option --clock: found "sun", expected told or wall)"},
         Row{{"--clock", "getXpicPreamble", "1"}, R"(option --clock: found "getXpicPreamble", expected told or wall)"},
         Row{{"--scenario", "nowhere"},
-            R"(scenario: found "nowhere", expected a file, or a name that "listScenarios" lists)"},
+            R"(scenario: found "nowhere", expected a .toml file, or a name that "listScenarios" lists)"},
         Row{{"--scenario", "one-chanel"},
-            R"(scenario: found "one-chanel", expected a file, or a name that )"
+            R"(scenario: found "one-chanel", expected a .toml file, or a name that )"
             R"("listScenarios" lists (did you mean one-channel?))"},
-        Row{{"--scenario="}, R"(scenario: found "", expected a file, or a name that "listScenarios" lists)"},
+        Row{{"--scenario="}, R"(scenario: found "", expected a .toml file, or a name that "listScenarios" lists)"},
         Row{{"--scenario", "/absent/x"}, "/absent/x: found no such file, expected a scenario file"},
         Row{{"--scenario", "absent.toml"}, "absent.toml: found no such file, expected a scenario file"},
         Row{{"--scenario", "/"}, "/: found a folder, expected a scenario file"},
         Row{{"--scenario", "nowhere", "getXpicPreamble", "1"},
-            R"(scenario: found "nowhere", expected a file, or a name that "listScenarios" lists)"},
-        Row{{"--scenarios", "clear-sky"}, R"(option: found "--scenarios", expected one that "kel-node --help" lists)"},
+            R"(scenario: found "nowhere", expected a .toml file, or a name that "listScenarios" lists)"},
+        Row{{"--scenarios", "clear-sky"},
+            R"(option: found "--scenarios", expected one that "kel-node --help" lists (did you mean --scenario?))"},
         Row{{"--clock", "told", "-x"}, R"(option: found "-x", expected one that "kel-node --help" lists)"}));
 
 /// How the preamble of channel 1 tells the two scenarios of this test apart.

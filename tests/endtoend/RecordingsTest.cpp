@@ -67,4 +67,24 @@ TEST_F(RecordingsTest, AFileThatIsNoneIsTold)
     EXPECT_NE(std::string::npos, run.errors.find("kel-node: " + file + ":1: found ")) << run.errors;
 }
 
+TEST_F(RecordingsTest, WhatIsNotRecordedDoesNotReplaceARecording)
+{
+    folder.write("bug.jsonl", "what was there");
+    for (const std::string command : {"replay", "help", "plot"})
+    {
+        const Finished run = finish({.arguments = {"--record", file, command, file}});
+        EXPECT_EQ("kel-node: option --record: found \"" + command +
+                      "\", expected a command that is recorded, or lines of commands\n",
+                  run.errors);
+        EXPECT_EQ(2, run.status);
+        EXPECT_EQ("what was there", folder.read("bug.jsonl"));
+    }
+}
+
+TEST_F(RecordingsTest, TheRoundsOfAWatchAreRecorded)
+{
+    EXPECT_EQ(0, finish({.arguments = {"--record", file, "watch", "-n", "0.1", "-c", "2", "showLink"}}).status);
+    EXPECT_EQ(file + ": 2 commands, each answered as recorded\n", replay().output);
+}
+
 } // namespace

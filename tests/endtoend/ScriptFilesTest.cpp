@@ -80,7 +80,9 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"quotation", "showLink \"\n", "",
             "kel-node: FILE:1: line: found a quotation mark alone, expected another one that closes it\n", 2},
         Row{"scenario", "loadScenario nix\n", "",
-            "kel-node: FILE:1: scenario: found \"nix\", expected a file, or a name that \"listScenarios\" lists\n", 2},
+            "kel-node: FILE:1: scenario: found \"nix\", expected a .toml file, or a name that \"listScenarios\" "
+            "lists\n",
+            2},
         Row{"start", "loadScenario start-registration-throws\nshowLink\n", "",
             "kel-node: FILE:1: module KelDebugCmd: its constructor threw: registry is full\n", 3}),
     [](const auto& row) { return row.param.name; });
@@ -133,7 +135,7 @@ TEST(ScriptFilesTest, AFileThatIsNotThereIsTold)
 TEST(ScriptFilesTest, AFolderIsNoScript)
 {
     const Finished run = runCommand("-f /");
-    EXPECT_EQ("kel-node: /: found it unreadable, expected lines\n", run.errors);
+    EXPECT_EQ("kel-node: /: found a folder, expected a file of commands\n", run.errors);
     EXPECT_EQ(2, run.status);
 }
 

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -164,10 +165,55 @@ TEST_F(TerminalTest, CtrlCEndsAWatchAndLeavesTheNode)
     expectAnswer("2\r\n", "getXpicPreamble 1");
 }
 
+TEST_F(TerminalTest, ASignalThatEndsTheNodeLeavesTheTerminalAsItWas)
+{
+    const auto describe = [](const termios& modes) {
+        return std::vector<tcflag_t>{modes.c_iflag, modes.c_oflag, modes.c_cflag, modes.c_lflag};
+    };
+    const auto before = describe(Terminal({"/bin/true"}).modes());
+    for (const int signal : {SIGHUP, SIGQUIT, SIGTERM})
+    {
+        Terminal another({KEL_NODE, "--clock", "told"}, std::vector<std::string>{"TERM=dumb", "HOME=" + home.path()});
+        another.readUntil(prompt);
+        EXPECT_NE(before, describe(another.modes()));
+        another.signal(signal);
+        EXPECT_EQ("\r\n", another.readToTheEnd()) << signal;
+        EXPECT_EQ(128 + signal, another.exitStatus());
+        EXPECT_EQ(before, describe(another.modes())) << signal;
+    }
+}
+
 TEST_F(TerminalTest, ADumbTerminalGetsNoEscapeSequences)
 {
     terminal.type("watch -n 0.1 -c 3 showLink\nnonsense\nexit\n");
     EXPECT_EQ(std::string::npos, terminal.readToTheEnd().find('\x1B'));
+}
+
+/// A shell, which stops the program and lets it go on.
+TEST(StoppedProgramTest, TheLineIsThereAgainAfterCtrlZ)
+{
+    const TemporaryFolder home;
+    const Terminal bash({"/bin/bash", "--norc", "--noprofile"},
+                        {{"HOME=" + home.path(), "TERM=xterm", "PS1=$ ", "LC_ALL=C.UTF-8", "PATH=/usr/bin:/bin",
+                          "INPUTRC=" + home.write("inputrc", "set enable-bracketed-paste off\n")}});
+    bash.readUntil("$ ");
+    bash.type(std::string(KEL_NODE) + " --clock told\n");
+    bash.readUntil("0:00:00.0>");
+    const auto atThePrompt = bash.modes().c_lflag;
+    bash.type("getXpicP");
+    bash.readUntil("getXpicP");
+    bash.type("\x1A");
+    bash.readUntil("Stopped");
+    bash.readUntil("$ ");
+    bash.type("stty -a | grep -o ' icanon'\n");
+    bash.readUntil("\n icanon");
+    bash.type("fg\n");
+    bash.readUntil("getXpicP"); // the line is drawn anew
+    EXPECT_EQ(atThePrompt, bash.modes().c_lflag);
+    bash.type("\t1\n");
+    EXPECT_TRUE(bash.readUntil("\n0\r\n").ends_with("\n0\r\n"));
+    bash.type("exit\n");
+    bash.readUntil("$ ");
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -42,9 +43,11 @@ Terminal::Terminal(std::vector<std::string> words, std::optional<std::vector<std
     const std::vector<char*> arguments = pointersTo(words);
     const std::vector<char*> variables = environment ? pointersTo(*environment) : std::vector<char*>();
     const winsize window = toWinsize(size);
+    const rlimit nothing{};
     m_program = forkpty(&m_terminal, nullptr, nullptr, &window);
     if (m_program == 0)
     {
+        setrlimit(RLIMIT_CORE, &nothing); // a signal that ends it leaves no file behind
         execve(words.front().c_str(), arguments.data(), environment ? variables.data() : environ);
         _exit(127);
     }
@@ -111,6 +114,11 @@ termios Terminal::modes() const
     return modes;
 }
 
+void Terminal::signal(int signal) const
+{
+    EXPECT_EQ(0, kill(m_program, signal));
+}
+
 void Terminal::hangUp()
 {
     if (m_terminal >= 0)
@@ -133,5 +141,5 @@ int Terminal::exitStatus()
     int status = 0;
     EXPECT_EQ(m_program, waitpid(m_program, &status, 0));
     m_program = 0;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }

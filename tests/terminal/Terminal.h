@@ -47,10 +47,14 @@ public:
     /// How the terminal treats what is typed and printed.
     termios modes() const;
 
+    /// Sends the program a signal.
+    void signal(int signal) const;
+
     /// Closes the terminal under the program, as when a window is closed.
     void hangUp();
 
     /// Waits for the program's end.
+    /// @return its exit status; 128 and the signal's number when a signal ended it
     int exitStatus();
 
 private:

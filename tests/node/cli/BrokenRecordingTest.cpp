@@ -1,3 +1,4 @@
+#include <map>
 #include <ostream>
 #include <string>
 
@@ -59,65 +60,52 @@ const auto NameOf = [](const auto& row) { return row.param.name; };
 
 INSTANTIATE_TEST_SUITE_P(
     FirstLine, BrokenRecordingTest,
-    ::testing::Values(Row{"Version", R"({"recording":2,"scenario":{"file":"","text":""},"trace_levels":{}})",
-                          ":1: found recording 2" + Expected},
-                      Row{"VersionAsText", R"({"recording":"1","scenario":{"file":"","text":""},"trace_levels":{}})",
-                          ":1: found recording \"1\"" + Expected},
-                      Row{"ACommand", Second + "\n" + Second + "\n", ":1: found a command" + Expected},
-                      Row{"NoScenario", R"({"recording":1,"trace_levels":{}})",
-                          ":1: found [json.exception.out_of_range.403] key 'scenario' not found" + Expected},
-                      Row{"NoText", R"({"recording":1,"scenario":{"file":""},"trace_levels":{}})",
-                          ":1: found [json.exception.out_of_range.403] key 'text' not found" + Expected},
-                      Row{"NoLevels", R"({"recording":1,"scenario":{"file":"","text":""}})",
-                          ":1: found [json.exception.out_of_range.403] key 'trace_levels' not found" + Expected},
-                      Row{"LevelsAsTexts",
-                          R"({"recording":1,"scenario":{"file":"","text":""},"trace_levels":{"KEL":"3"}})",
-                          ":1: found [json.exception.type_error.302] type must be number, but is string" + Expected},
-                      Row{"AScenarioThatDoesNotFit",
-                          R"({"recording":1,"scenario":{"file":"a.toml","text":"hop = 1"},"trace_levels":{}})",
-                          ":1: found a.toml:1:7: hop: found 1, expected a table, expected a scenario that fits"},
-                      Row{"AnEmptyLine", "\n" + First + "\n", ":1: found no JSON" + Expected}),
+    ::testing::Values(
+        Row{"Version", R"({"recording":2,"scenario":{"file":"","text":""},"trace_levels":{}})",
+            ":1: found recording 2" + Expected},
+        Row{"VersionAsText", R"({"recording":"1","scenario":{"file":"","text":""},"trace_levels":{}})",
+            ":1: found recording \"1\"" + Expected},
+        Row{"ACommand", Second + "\n" + Second + "\n", ":1: found a command" + Expected},
+        Row{"NoScenario", R"({"recording":1,"trace_levels":{}})", ":1: found key 'scenario' not found" + Expected},
+        Row{"NoText", R"({"recording":1,"scenario":{"file":""},"trace_levels":{}})",
+            ":1: found key 'text' not found" + Expected},
+        Row{"NoLevels", R"({"recording":1,"scenario":{"file":"","text":""}})",
+            ":1: found key 'trace_levels' not found" + Expected},
+        Row{"LevelsAsTexts", R"({"recording":1,"scenario":{"file":"","text":""},"trace_levels":{"KEL":"3"}})",
+            ":1: found type must be number, but is string" + Expected},
+        Row{"AScenarioThatDoesNotFit",
+            R"({"recording":1,"scenario":{"file":"a.toml","text":"hop = 1"},"trace_levels":{}})",
+            ":1: found a.toml:1:7: hop: found 1, expected a table, expected a scenario that fits"},
+        Row{"AnEmptyLine", "\n" + First + "\n", ":1: found no JSON" + Expected}),
     NameOf);
 
 INSTANTIATE_TEST_SUITE_P(
     Members, BrokenRecordingTest,
     ::testing::Values(
-        Row{"NoCommand", with("\"command\"", "\"commando\""),
-            ":2: found [json.exception.out_of_range.403] key 'command' not found" + Expected},
-        Row{"NoArguments", with("\"arguments\"", "\"argument\""),
-            ":2: found [json.exception.out_of_range.403] key 'arguments' not found" + Expected},
-        Row{"NoTime", with("\"time_s\"", "\"time\""),
-            ":2: found [json.exception.out_of_range.403] key 'time_s' not found" + Expected},
-        Row{"NoStatus", with("\"status\"", "\"state\""),
-            ":2: found [json.exception.out_of_range.403] key 'status' not found" + Expected},
-        Row{"NoResult", with("\"result\"", "\"results\""),
-            ":2: found [json.exception.out_of_range.403] key 'result' not found" + Expected},
-        Row{"NoTrace", with("\"trace\"", "\"traces\""),
-            ":2: found [json.exception.out_of_range.403] key 'trace' not found" + Expected},
-        Row{"NoError", with("\"error\"", "\"errors\""),
-            ":2: found [json.exception.out_of_range.403] key 'error' not found" + Expected},
-        Row{"CommandAsNumber", with("\"startDpd\"", "1"),
-            ":2: found [json.exception.type_error.302] type must be string, but is number" + Expected},
-        Row{"ArgumentsAsText", with("[\"1\"]", "\"1\""),
-            ":2: found [json.exception.type_error.302] type must be array, but is string" + Expected},
-        Row{"ArgumentsAsNull", with("[\"1\"]", "null"),
-            ":2: found [json.exception.type_error.302] type must be array, but is null" + Expected},
-        Row{"ArgumentAsNumber", with("[\"1\"]", "[1]"),
-            ":2: found [json.exception.type_error.302] type must be string, but is number" + Expected},
+        Row{"NoCommand", with("\"command\"", "\"commando\""), ":2: found key 'command' not found" + Expected},
+        Row{"NoArguments", with("\"arguments\"", "\"argument\""), ":2: found key 'arguments' not found" + Expected},
+        Row{"NoTime", with("\"time_s\"", "\"time\""), ":2: found key 'time_s' not found" + Expected},
+        Row{"NoStatus", with("\"status\"", "\"state\""), ":2: found key 'status' not found" + Expected},
+        Row{"NoResult", with("\"result\"", "\"results\""), ":2: found key 'result' not found" + Expected},
+        Row{"NoTrace", with("\"trace\"", "\"traces\""), ":2: found key 'trace' not found" + Expected},
+        Row{"NoError", with("\"error\"", "\"errors\""), ":2: found key 'error' not found" + Expected},
+        Row{"CommandAsNumber", with("\"startDpd\"", "1"), ":2: found type must be string, but is number" + Expected},
+        Row{"ArgumentsAsText", with("[\"1\"]", "\"1\""), ":2: found type must be array, but is string" + Expected},
+        Row{"ArgumentsAsNull", with("[\"1\"]", "null"), ":2: found type must be array, but is null" + Expected},
+        Row{"ArgumentAsNumber", with("[\"1\"]", "[1]"), ":2: found type must be string, but is number" + Expected},
         Row{"TooFewBytes", with("[\"1\"]", "[\"1\"],\"arguments_hex\":[]"),
-            ":2: found [json.exception.out_of_range.401] array index 0 is out of range" + Expected},
+            ":2: found array index 0 is out of range" + Expected},
         Row{"OddDigits", with("[\"1\"]", "[\"1\"],\"arguments_hex\":[\"313\"]"), ":2: found \"313\"" + Expected},
         Row{"NoDigits", with("[\"1\"]", "[\"1\"],\"arguments_hex\":[\"3g\"]"), ":2: found \"3g\"" + Expected},
-        Row{"TimeAsText", with("0.0", "\"0.0\""),
-            ":2: found [json.exception.type_error.302] type must be number, but is string" + Expected},
+        Row{"TimeAsText", with("0.0", "\"0.0\""), ":2: found type must be number, but is string" + Expected},
         Row{"TimeBeforeTheStart", with("0.0", "-0.1"), ":2: found time_s -0.1" + Expected},
         Row{"TimeWithoutEnd", with("0.0", "1e300"), ":2: found time_s 1e+300" + Expected},
         Row{"ReportAsNumber", with("\"report\":\"\"", "\"report\":1"),
-            ":2: found [json.exception.type_error.302] type must be string, but is number" + Expected},
+            ":2: found type must be string, but is number" + Expected},
         Row{"TraceAsText", with("[],\"error\"", "\"\",\"error\""),
-            ":2: found [json.exception.type_error.302] type must be array, but is string" + Expected},
+            ":2: found type must be array, but is string" + Expected},
         Row{"MessageAsText", with("[],\"error\"", "[\"\"],\"error\""),
-            ":2: found [json.exception.type_error.304] cannot use at() with string" + Expected}),
+            ":2: found cannot use at() with string" + Expected}),
     NameOf);
 
 INSTANTIATE_TEST_SUITE_P(Commands, BrokenRecordingTest,
@@ -132,8 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, BrokenRecordingTest,
 INSTANTIATE_TEST_SUITE_P(
     Lines, BrokenRecordingTest,
     ::testing::Values(Row{"NoJson", "record\n", ":1: found no JSON" + Expected},
-                      Row{"ANumber", First + "\n5\n",
-                          ":2: found [json.exception.type_error.304] cannot use at() with number" + Expected},
+                      Row{"ANumber", First + "\n5\n", ":2: found cannot use at() with number" + Expected},
                       Row{"Truncated", First + "\n" + Second.substr(0, 30), ":2: found no JSON" + Expected}),
     NameOf);
 
@@ -141,11 +128,13 @@ using RefusedRecordingTest = RecordingTestAt<RecordingDesk>;
 
 TEST_F(RefusedRecordingTest, NeedsAFileWithSomethingInIt)
 {
-    for (const std::string& name : {folder.write("empty", ""), folder.path(), folder.pathOf("absent")})
+    const std::map<std::string, std::string> files = {
+        {folder.write("empty", ""), "nothing"}, {folder.path(), "a folder"}, {folder.pathOf("absent"), "no such file"}};
+    for (const auto& [name, found] : files)
     {
         const auto answer = carryOut({"advance 1", "replay " + name});
         EXPECT_EQ(Status::NotUnderstood, answer.status);
-        EXPECT_EQ("recording: found \"" + name + "\", expected a file that \"record\" wrote", answer.error);
+        EXPECT_EQ(name + ": found " + found + ", expected a file that \"record\" wrote", answer.error);
         EXPECT_THAT(desk.started, IsEmpty());
     }
     EXPECT_EQ(3U, session->history().commands.size());

@@ -1,12 +1,15 @@
+#include <csignal>
 #include <sstream>
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "node/cli/Session.h"
 #include "node/commands/RecordingDesk.h"
 #include "node/commands/TemporaryFolder.h"
 #include "node/output/TextOutput.h"
+#include "node/terminal/Interrupt.h"
 
 using node::cli::Session;
 using node::cli::Status;
@@ -133,6 +136,19 @@ TEST_F(ClockTest, WithoutOneTimeStandsStill)
     EXPECT_EQ(Status::Done, told.carryOut({"showLink"}));
     EXPECT_EQ(Status::Done, told.carryOut({"startDpd", "1"}));
     EXPECT_EQ(Ticks(0), linkTime());
+}
+
+TEST_F(ClockTest, CtrlCEndsTheCommandThatALongTimeComesBefore)
+{
+    const node::terminal::Interrupt held;
+    std::raise(SIGINT);
+    now += std::chrono::hours(100);
+    carryOut("startDpd 1");
+    EXPECT_EQ("kel-node: startDpd: interrupted\n", errors.str());
+    EXPECT_THAT(desk.recorder.calls, ::testing::IsEmpty());
+    EXPECT_EQ(Ticks(600), linkTime());
+    carryOut("startDpd 1");
+    EXPECT_EQ(Ticks(600), linkTime());
 }
 
 } // namespace

@@ -114,11 +114,10 @@ TEST_F(HistoryTest, BeginsWithTheNodeThatIsOnTheDesk)
     EXPECT_EQ("a text", later.history().beginning.scenarioText);
 }
 
-TEST_F(HistoryTest, AScenarioThatIsNotUnderstoodIsACommandAsOthersAre)
+TEST_F(HistoryTest, HasNothingThatAFileDecides)
 {
-    carryOut({"advance 1", "loadScenario absent"});
-    EXPECT_THAT(commands(), ElementsAre("\"advance\" [\"1\"]\ntime 0s\nstatus 0\n",
-                                        "\"loadScenario\" [\"absent\"]\ntime 1s\nstatus 0\n"));
+    carryOut({"advance 1", "loadScenario absent", "sample 1 1 /dev/full/x", "sample 1 1 /dev/full", "listScenarios"});
+    EXPECT_THAT(commands(), ElementsAre("\"advance\" [\"1\"]\ntime 0s\nstatus 0\n"));
 }
 
 TEST_F(HistoryTest, ForgetsAllWhenThereIsOneTooMany)

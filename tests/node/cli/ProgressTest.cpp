@@ -10,6 +10,7 @@
 #include "node/cli/KeptAnswers.h"
 #include "node/cli/Session.h"
 #include "node/commands/RecordingDesk.h"
+#include "node/terminal/Interrupt.h"
 
 using node::cli::Progress;
 using node::cli::Session;
@@ -34,7 +35,7 @@ protected:
 
     Progress::Clock::time_point now{std::chrono::hours(1)};
     std::ostringstream screen;
-    Progress progress{&screen, [this] { return now; }};
+    Progress progress{[this](const std::string& drawing) { screen << drawing; }, [this] { return now; }};
 };
 
 TEST_F(ProgressTest, IsNotDrawnBeforeHalfASecond)
@@ -85,7 +86,7 @@ TEST(ProgressEndTest, TakesWhatIsDrawnAway)
     std::ostringstream screen;
     Progress::Clock::time_point now;
     {
-        Progress progress(&screen, [&] { return now; });
+        Progress progress([&](const std::string& drawing) { screen << drawing; }, [&] { return now; });
         now += milliseconds(500);
         progress.reached(0.5);
     }
@@ -95,7 +96,7 @@ TEST(ProgressEndTest, TakesWhatIsDrawnAway)
 TEST(ProgressEndTest, LeavesAScreenAloneWhereNothingIsDrawn)
 {
     std::ostringstream screen;
-    Progress(&screen).reached(0.5);
+    Progress([&](const std::string& drawing) { screen << drawing; }).reached(0.5);
     EXPECT_EQ("", screen.str());
 }
 
@@ -112,12 +113,8 @@ TEST(ProgressEndTest, WithoutAScreenCtrlCEndsTheCommandAllTheSame)
 
 TEST(InterruptedCommandTest, KeepsTheTimeThatHasGone)
 {
-    // Held back until the command waits for it: outside of one it would end the program.
-    sigset_t interrupt;
-    sigemptyset(&interrupt);
-    sigaddset(&interrupt, SIGINT);
-    sigset_t before;
-    pthread_sigmask(SIG_BLOCK, &interrupt, &before);
+    // Held back until the command looks: outside of one it would end the program.
+    const node::terminal::Interrupt held;
     std::raise(SIGINT);
 
     RecordingDesk desk;
@@ -128,7 +125,6 @@ TEST(InterruptedCommandTest, KeepsTheTimeThatHasGone)
     EXPECT_EQ(Ticks(600), desk.link().conditions().time);
     EXPECT_EQ(node::cli::Status::Done, session.carryOutLine("advance 2min"));
     EXPECT_EQ(Ticks(1800), desk.link().conditions().time);
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "node/cli/RecordingTest.h"
 
+#include <csignal>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -7,6 +8,7 @@
 
 #include "node/commands/RecordingDesk.h"
 #include "node/output/Json.h"
+#include "node/terminal/Interrupt.h"
 #include "trace/VemTrace.h"
 
 using node::cli::Status;
@@ -54,6 +56,35 @@ TEST_F(RecordingTest, HasNothingThatLeavesTheNodeAsItIs)
     EXPECT_EQ(beginning(), folder.read("recording"));
 }
 
+TEST_F(RecordingTest, HasNothingThatAFileDecides)
+{
+    done({"record " + file, "listScenarios"});
+    carryOut({"loadScenario ./absent", "sample 1 1 /dev/full/x", "sample 1 1 /dev/full"});
+    EXPECT_EQ(beginning(), folder.read("recording"));
+}
+
+TEST_F(RecordingTest, HasNothingThatCtrlCEnded)
+{
+    const node::terminal::Interrupt held;
+    done({"record " + file});
+    std::raise(SIGINT);
+    EXPECT_EQ("advance: interrupted", carryOut({"advance 100h"}).error);
+    EXPECT_EQ(beginning(), folder.read("recording"));
+    done({"stopRecord", "record " + file});
+    EXPECT_EQ(beginning(), folder.read("recording"));
+}
+
+TEST_F(RecordingTest, HasNothingThatWasTracedBeforeTheFirstCommand)
+{
+    done({"record " + file});
+    session->tellNext({{Ticks(0), {"KEL", 1, "", 0, "", "a start"}}});
+    done({"startDpd 1"});
+    EXPECT_EQ("a start", output.answers.back().trace.at(0).message.text);
+    EXPECT_EQ(std::string::npos, folder.read("recording").find("a start"));
+    done({"startDpd 1"});
+    EXPECT_THAT(output.answers.back().trace, IsEmpty());
+}
+
 TEST_F(RecordingTest, HasTheEarlierCommandsWithoutTheirAnswers)
 {
     carryOut({"setRain 10", "advance 1.5", "startDpd 3", std::string("filterTrace *"), "setTraceLevel * \xff"});
@@ -74,7 +105,7 @@ TEST_F(RecordingTest, HasEveryMessageWhateverTheFilterLetsThrough)
         trace.beginLogMsg(1, {});
         trace.messageStream() << "a message" << std::flush;
     };
-    done({"filterTrace nothing", "record " + file, "startDpd 1"});
+    done({"filterTrace KEL.*", "record " + file, "startDpd 1"});
     EXPECT_THAT(output.answers.back().trace, IsEmpty());
     EXPECT_NE(std::string::npos, folder.read("recording").find("\"text\":\"a message\""));
 }
@@ -129,12 +160,11 @@ TEST_F(RecordingTest, IsEndedOnlyWhereOneRuns)
 
 TEST_F(RecordingTest, IsRefusedWhereItCannotBeWritten)
 {
-    for (const std::string& absent : {folder.pathOf("absent/recording"), folder.path()})
-    {
-        const auto answer = carryOut({"record " + absent});
-        EXPECT_EQ(Status::NotUnderstood, answer.status);
-        EXPECT_EQ("recording: found \"" + absent + "\", expected a file that can be written", answer.error);
-    }
+    const std::string absent = folder.pathOf("absent/recording");
+    EXPECT_EQ(absent + ": found no such folder, expected a file to write", carryOut({"record " + absent}).error);
+    EXPECT_EQ(Status::NotUnderstood, output.answers.back().status);
+    EXPECT_EQ(folder.path() + ": found a folder, expected a file to write",
+              carryOut({"record " + folder.path()}).error);
     done({"record " + file});
 }
 

@@ -69,7 +69,8 @@ protected:
 
     std::string allOf(int commands) const
     {
-        return file + ": " + std::to_string(commands) + " commands, each answered as recorded\n";
+        return file + ": " + std::to_string(commands) + (commands == 1 ? " command" : " commands") +
+               ", each answered as recorded\n";
     }
 
     TemporaryFolder folder;

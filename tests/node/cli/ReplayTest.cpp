@@ -1,3 +1,4 @@
+#include <csignal>
 #include <filesystem>
 #include <string>
 
@@ -5,6 +6,8 @@
 
 #include "node/cli/RecordingTest.h"
 #include "node/commands/LinkText.h"
+#include "node/scenario/Scenario.h"
+#include "node/terminal/Interrupt.h"
 
 using node::cli::Session;
 using node::cli::Status;
@@ -56,7 +59,72 @@ TEST_F(ReplayTest, OfCommandsThatFailed)
     done({"record " + file});
     carryOut({"startDpd 3", "setXpicPreamble 1 4", "addFault nonsense", "loadScenario absent", "showLink now",
               "sample 1 1 /dev/full/x", "getX 1", "setPpsSource 1 3 0"});
-    EXPECT_EQ(allOf(7), replayed(file));
+    EXPECT_EQ(allOf(5), replayed(file));
+}
+
+TEST_F(ReplayTest, OfATableThatCouldNotBeWritten)
+{
+    carryOut({"sample 1h 1min /dev/full/x", "record " + file, "sample 1min 1 /dev/full"});
+    done({"showLink"});
+    EXPECT_EQ(allOf(1), replayed(file));
+}
+
+TEST_F(ReplayTest, OfCommandsThatCtrlCEnded)
+{
+    const node::terminal::Interrupt held;
+    std::raise(SIGINT);
+    EXPECT_EQ("advance: interrupted", carryOut({"advance 100h"}).error);
+    done({"record " + file, "setRain 60 1h"});
+    std::raise(SIGINT);
+    EXPECT_EQ("sample: interrupted", carryOut({"sample 100h 1min -"}).error);
+    done({"showLink"});
+    EXPECT_EQ(allOf(2), replayed(file));
+    EXPECT_EQ(Ticks(1200), desk.link().conditions().time);
+}
+
+TEST_F(ReplayTest, OfAStartThatTraces)
+{
+    const std::string scenario =
+        folder.write("traces.toml", "[node]\nruns_with_failed_modules = true\n[broker]\nIRlbspKelApi = \"absent\"\n");
+    session->start(node::scenario::load(scenario));
+    done({"record " + file, "showLink", "loadScenario " + scenario});
+    EXPECT_THAT(output.answers.back().trace, ::testing::SizeIs(::testing::Gt(0)));
+    done({"showLink", "stopRecord"});
+    EXPECT_EQ(allOf(3), replayed(file));
+}
+
+TEST_F(ReplayTest, FindsAStartThatTracesOtherwise)
+{
+    const std::string scenario =
+        folder.write("traces.toml", "[node]\nruns_with_failed_modules = true\n[broker]\nIRlbspKelApi = \"absent\"\n");
+    done({"record " + file, "loadScenario " + scenario, "stopRecord"});
+    const std::string recorded = folder.read("recording");
+    const auto place = recorded.find("IRlbspKelApi\\");
+    ASSERT_NE(std::string::npos, place) << recorded;
+    folder.write("recording", std::string(recorded).replace(place, 12, "IDpdController0"));
+    EXPECT_THAT(replayed(file),
+                ::testing::StartsWith(file + ":3: \"loadScenario " + scenario + "\" at 0:00:00.0: trace: found [{"));
+}
+
+TEST_F(ReplayTest, CtrlCEndsIt)
+{
+    done({"record " + file, "showLink", "advance 1h", "stopRecord"});
+    const node::terminal::Interrupt held;
+    std::raise(SIGINT);
+    EXPECT_EQ("replay: interrupted", carryOut({"replay " + file}).error);
+    EXPECT_EQ(Status::CommandFailed, output.answers.back().status);
+    EXPECT_EQ(1, output.interruptions);
+}
+
+TEST_F(ReplayTest, OfANodeThatDidNotStartAndWhoseFileIsGone)
+{
+    const std::string refused = folder.write("refused.toml", "[broker]\nIRlbspKelApi = \"absent\"\n");
+    done({"record " + file});
+    EXPECT_EQ(Status::NotStarted, carryOut({"loadScenario " + refused}).status);
+    std::filesystem::remove(refused);
+    EXPECT_EQ(Status::NotStarted, carryOut({"showLink"}).status);
+    EXPECT_EQ(allOf(2), replayed(file));
+    EXPECT_FALSE(desk.hasNode());
 }
 
 TEST_F(ReplayTest, OfANodeThatDidNotStart)
@@ -181,7 +249,7 @@ TEST_F(ReplayTest, ShowsNothingOfItsCommands)
     output.told.clear();
     done({"replay " + file});
     EXPECT_EQ("\"replay\" [\"" + file + "\"]\ntime 0s\nstatus 0\nresult 0, \"" + file +
-                  ": 1 commands, each answered as recorded\\n\"\n",
+                  ": 1 command, each answered as recorded\\n\"\n",
               textOf(output.answers.at(0)));
     EXPECT_THAT(output.told, ::testing::IsEmpty());
     carryOut({"setXpicPreamble 1 4"});

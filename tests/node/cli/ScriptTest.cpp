@@ -176,4 +176,10 @@ TEST_F(ScriptTest, AnInputThatCannotBeReadOnIsToldBehindTheLinesBefore)
     EXPECT_THAT(commands.calls, ElementsAre("startDpd(1)"));
 }
 
+TEST_F(ScriptTest, AByteOrderMarkBeforeTheFirstLineIsNoPartOfIt)
+{
+    EXPECT_EQ(Status::Done, runScript("\xEF\xBB\xBFstartDpd 1\n"));
+    EXPECT_EQ(Status::NotUnderstood, runScript("startDpd 1\n\xEF\xBB\xBFstartDpd 1\n"));
+}
+
 } // namespace

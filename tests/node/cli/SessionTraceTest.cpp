@@ -109,16 +109,27 @@ TEST_F(SessionTraceTest, AMessageBetweenCommandsGoesToTheNextAnswer)
     EXPECT_THAT(answered(), IsEmpty());
 }
 
-TEST_F(SessionTraceTest, AStepThatFailsHasItsMessages)
+TEST_F(SessionTraceTest, AStepHasItsMessages)
 {
-    EXPECT_EQ(node::cli::Status::Done, session.attempt([&] { write(3, "first"); }));
+    EXPECT_EQ("first", session.attempt([&] { write(3, "first"); }).trace.at(0).message.text);
     session.attempt(
         [&]
         {
             write(3, "second");
             throw node::startup::StartUpError("it does not start");
         });
-    EXPECT_THAT(answered(), ElementsAre("0s STT.one:3 \"first\"", "0s STT.one:3 \"second\""));
+    EXPECT_THAT(answered(), ElementsAre("0s STT.one:3 \"second\""));
+}
+
+TEST_F(SessionTraceTest, AFileThatIsFullIsToldByTheNextCommand)
+{
+    desk.recorder.duringCall = [&] { write(2, "lost"); };
+    session.carryOutLine("traceFile /dev/full");
+    session.carryOutLine("startDpd 1");
+    EXPECT_EQ(node::cli::Status::CommandFailed, output.answers.back().status);
+    EXPECT_EQ("trace file: \"/dev/full\" cannot be written any more", output.answers.back().error);
+    session.carryOutLine("startDpd 1");
+    EXPECT_EQ(node::cli::Status::Done, output.answers.back().status);
 }
 
 TEST_F(SessionTraceTest, AnAnswerHasWhatTheFilterLetsThrough)
@@ -163,7 +174,7 @@ TEST_F(SessionTraceTest, FilterAndFileAreRefusedAsTheirArgumentsAre)
     session.carryOutLine("stopTraceFile");
     EXPECT_EQ("trace file: found none, expected one that \"traceFile\" has begun", output.answers.back().error);
     session.carryOutLine("traceFile /");
-    EXPECT_EQ("trace file: found \"/\", expected a file that can be written", output.answers.back().error);
+    EXPECT_EQ("/: found a folder, expected a file to write", output.answers.back().error);
     EXPECT_EQ(node::cli::Status::NotUnderstood, output.answers.back().status);
 }
 

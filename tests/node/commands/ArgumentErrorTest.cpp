@@ -273,8 +273,10 @@ TEST_F(CommandErrorTest, WhatCannotBeSeenIsQuotedVisibly)
 
 TEST_F(CommandErrorTest, HelpOfAnUnknownCommandIsAnError)
 {
-    expectComplaint(R"(command: found "getCTStatus", expected one that "help" lists (did you mean getCtStatus?))",
+    expectComplaint(R"(topic: found "getCTStatus", expected a command, or scenario (did you mean getCtStatus?))",
                     {"help", "getCTStatus"});
+    expectComplaint(R"(topic: found "Scenari", expected a command, or scenario (did you mean scenario?))",
+                    {"help", "Scenari"});
 }
 
 TEST_F(CommandErrorTest, HelpTakesOneCommand)

@@ -165,4 +165,12 @@ TEST(FaultChoicesTest, AreTheKeysThatAreStillOpen)
     EXPECT_THAT(choices("addFault", 0, {"tiManageXpic", "code=7"}), Contains("code="));
 }
 
+TEST_F(FileChoicesTest, OfScenariosAreTomlFilesAndFoldersAlone)
+{
+    const std::vector<std::string> found = choices("loadScenario", 0, {folder.pathOf("rain")});
+    EXPECT_THAT(found, Contains(folder.pathOf("rain.toml")));
+    EXPECT_THAT(found, Contains(folder.pathOf("rain-front/")));
+    EXPECT_THAT(found, ::testing::Not(Contains(folder.pathOf("rain"))));
+}
+
 } // namespace

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cstddef>
+#include <map>
 #include <ostream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,6 +16,7 @@ using node::commands::Command;
 using node::commands::CommandGroup;
 using node::commands::commandGroups;
 using node::commands::commandNamed;
+using node::commands::WordKind;
 using ::testing::ElementsAre;
 
 namespace
@@ -108,6 +111,29 @@ TEST(CommandTableTest, NothingFollowsAnOptionalArgumentButOptionalOnes)
     }
 }
 
+TEST(CommandTableTest, ArgumentsSayWhatTheyName)
+{
+    const std::map<std::string, WordKind> kinds = {{"channel", WordKind::RadioChannel},
+                                                   {"channels", WordKind::TraceChannels},
+                                                   {"scenario", WordKind::Scenario},
+                                                   {"file", WordKind::File}};
+    std::set<std::string> found;
+    for (const CommandGroup& group : commandGroups())
+    {
+        for (const Command& command : group.commands)
+        {
+            for (const auto& argument : command.arguments)
+            {
+                const auto kind = kinds.find(argument.name);
+                EXPECT_EQ(kind == kinds.end() ? WordKind::Other : kind->second, argument.kind)
+                    << command.name << ' ' << argument.name;
+                found.insert(kind == kinds.end() ? "" : argument.name);
+            }
+        }
+    }
+    EXPECT_THAT(found, ElementsAre("", "channel", "channels", "file", "scenario"));
+}
+
 TEST(CommandTableTest, FindsEachCommandByItsWholeName)
 {
     for (const CommandGroup& group : commandGroups())
@@ -179,15 +205,24 @@ TEST(CommandTableTest, ABeginningThatSeveralHaveIsRefusedWithTheirNames)
               refusalOf("sto"));
 }
 
-TEST(CommandTableTest, AllButDrawingsAndTheCommandLinesOwnCommandsAnswerAlikeEachTime)
+TEST(CommandTableTest, AllButDrawingsFoldersAndTheCommandLinesOwnCommandsAnswerAlikeEachTime)
 {
     for (const CommandGroup& group : commandGroups())
     {
         for (const Command& command : group.commands)
         {
-            EXPECT_EQ(group.heading != "The command line" && command.name != "plot", command.repeatable)
-                << command.name;
+            const bool ofElse = command.name == "plot" || command.name == "listScenarios";
+            EXPECT_EQ(group.heading != "The command line" && !ofElse, command.repeatable) << command.name;
+            EXPECT_EQ(command.name == "loadScenario" || command.name == "sample", command.needsFile) << command.name;
         }
+    }
+}
+
+TEST(CommandTableTest, RecordedAreRepeatableCommandsAndWhatCarriesOneOut)
+{
+    for (const std::string& name : node::commands::commandNames())
+    {
+        EXPECT_EQ(name == "watch" || commandNamed(name).repeatable, node::commands::isRecorded(name)) << name;
     }
 }
 

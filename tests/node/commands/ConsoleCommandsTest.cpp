@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "node/commands/ConsoleTest.h"
+#include "trace/VemTrace.h"
 
 using node::commands::Outcome;
 using ::testing::ElementsAre;
@@ -47,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Row{{"replay", "a file"}, "replay(a file)", "the difference\n"},
                       Row{{"filterTrace", "KEL.*"}, "filterTrace(KEL.*, 255)"},
                       Row{{"filterTrace", "*", "0"}, "filterTrace(*, 0)"},
-                      Row{{"filterTrace", "", "255"}, "filterTrace(, 255)"},
+                      Row{{"filterTrace", "*", "255"}, "filterTrace(*, 255)"},
                       Row{{"traceFile", "a file"}, "startTraceFile(a file)"},
                       Row{{"stopTraceFile"}, "stopTraceFile()"}));
 
@@ -94,6 +95,18 @@ TEST_F(WatchedCommandTest, IsACommand)
     EXPECT_EQ("command: found \"getX\", expected more of its name: getXpicPreamble, getXpicStatus",
               complaint({"watch", "getX", "1"}));
     EXPECT_EQ("command: found \"\", expected one that \"help\" lists", complaint({"watch", ""}));
+}
+
+using TraceFilterTest = ConsoleTest;
+
+TEST_F(TraceFilterTest, FitsATraceChannel)
+{
+    const VemTrace channel("CCT.one", 3);
+    EXPECT_EQ("filterTrace: argument 1 (channels): found \"CCT.on\", expected a pattern that fits a channel that "
+              "\"listTraceLevels\" lists (did you mean CCT.one?)",
+              complaint({"filterTrace", "CCT.on"}));
+    carryOut({"filterTrace", "CCT.on?"});
+    EXPECT_THAT(console.calls, ::testing::ElementsAre("filterTrace(CCT.on?, 255)"));
 }
 
 } // namespace

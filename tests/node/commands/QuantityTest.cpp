@@ -9,12 +9,12 @@
 using node::commands::ChannelPattern;
 using node::commands::Distance;
 using node::commands::FadeDepth;
-using node::commands::FaultWords;
 using node::commands::FileName;
 using node::commands::RainRate;
 using node::commands::ScenarioName;
 using node::commands::Switch;
 using node::commands::TraceLevel;
+using node::commands::TypedFault;
 
 namespace
 {
@@ -124,9 +124,9 @@ TEST(QuantityTest, NamesAndPatternsAreTakenAsTheyStand)
 {
     for (const std::string word : {"", "a b", "KEL.*", "../x.toml", "-"})
     {
-        EXPECT_EQ(word, ScenarioName::parse(word)->nameOrFile);
-        EXPECT_EQ(word, ChannelPattern::parse(word)->pattern);
-        EXPECT_EQ(word, FileName::parse(word)->name);
+        EXPECT_EQ(word, ScenarioName::parse(word)->word);
+        EXPECT_EQ(word, ChannelPattern::parse(word)->word);
+        EXPECT_EQ(word, FileName::parse(word)->word);
     }
 }
 
@@ -137,7 +137,7 @@ TEST(QuantityTest, TheFormsOfWordsAreWorded)
     EXPECT_EQ("a file that can be written", FileName::form());
     EXPECT_EQ("a file that can be written, - for standard output", node::commands::TableName::form());
     EXPECT_EQ("a file that \"record\" wrote", node::commands::RecordingName::form());
-    EXPECT_EQ("a call that \"listCalls\" lists, then any of the keys", FaultWords::form());
+    EXPECT_EQ("a call that \"listCalls\" lists, then any of the keys", TypedFault::form());
 }
 
 } // namespace

@@ -63,6 +63,12 @@ public:
         calls.emplace_back("stopTraceFile()");
     }
 
+    bool canCreate(const std::string& file) override
+    {
+        calls.push_back(fmt::format("canCreate({})", file));
+        return false;
+    }
+
     std::unique_ptr<std::ostream> create(const std::string& file) override
     {
         calls.push_back(fmt::format("create({})", file));
@@ -75,7 +81,7 @@ public:
         return std::make_unique<Endless>();
     }
 
-    node::terminal::Size size() override
+    node::terminal::Size size() const override
     {
         return {};
     }

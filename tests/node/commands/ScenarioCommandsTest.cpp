@@ -100,10 +100,11 @@ TEST_F(ScenarioCommandsTest, ANameThatNoneHasLeavesTheNode)
 {
     folder.write("rain-front.toml", "");
     desk.link().advance(Ticks(50));
-    EXPECT_EQ("scenario: found \"rainfront\", expected a file, or a name that \"listScenarios\" lists (did you mean "
-              "rain-front?)",
-              complaint(Status::NotUnderstood, "loadScenario rainfront"));
-    EXPECT_EQ("scenario: found \"\", expected a file, or a name that \"listScenarios\" lists",
+    EXPECT_EQ(
+        "scenario: found \"rainfront\", expected a .toml file, or a name that \"listScenarios\" lists (did you mean "
+        "rain-front?)",
+        complaint(Status::NotUnderstood, "loadScenario rainfront"));
+    EXPECT_EQ("scenario: found \"\", expected a .toml file, or a name that \"listScenarios\" lists",
               complaint(Status::NotUnderstood, "loadScenario \"\""));
     EXPECT_THAT(desk.started, IsEmpty());
     EXPECT_EQ(Ticks(50), desk.link().conditions().time);

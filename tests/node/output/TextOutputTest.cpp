@@ -152,7 +152,7 @@ TEST_F(TextOutputTest, AWatchBeginsOnALineOfItsOwn)
 TEST_F(TextOutputTest, WhereOutputAndErrorsMeetEachHasLinesOfItsOwn)
 {
     Look look;
-    look.oneScreen = true;
+    look.screen = look.errorScreen = true;
     TextOutput text(output, output, look);
     text.show(answerOf("no end"));
     text.show(answerOf("no end", "failed"));
@@ -165,7 +165,7 @@ TEST_F(TextOutputTest, CtrlCOpensALineWhereItIsShown)
     for (const bool oneScreen : {true, false})
     {
         Look look;
-        look.oneScreen = oneScreen;
+        look.screen = look.errorScreen = oneScreen;
         output.str("");
         TextOutput text(output, errors, look);
         text.interrupted();

@@ -86,14 +86,14 @@ protected:
         return node::output::toLine(toJson(messageOf(text)));
     }
 
-    /// What is said of a step that is refused.
+    /// What is said of a step that is refused, or fails.
     static std::string complaint(const std::function<void()>& step)
     {
         try
         {
             step();
         }
-        catch (const node::wording::InputError& error)
+        catch (const std::runtime_error& error)
         {
             return error.what();
         }
@@ -141,7 +141,7 @@ TEST_F(TraceFileTest, ASecondOneTakesTheFirstOnesPlace)
 TEST_F(TraceFileTest, OneThatCannotBeWrittenLeavesTheOneBefore)
 {
     const std::string absent = folder.pathOf("absent/trace");
-    const std::string text = "trace file: found \"" + absent + "\", expected a file that can be written";
+    const std::string text = absent + ": found no such folder, expected a file to write";
     EXPECT_EQ(text, complaint([&] { view.open(absent); }));
     view.open(folder.pathOf("trace"));
     EXPECT_EQ(text, complaint([&] { view.open(absent); }));
@@ -156,6 +156,25 @@ TEST_F(TraceFileTest, NothingIsWrittenOnceItIsClosed)
     view.close();
     view.write(messageOf("1"));
     EXPECT_EQ("", folder.read("trace"));
+}
+
+TEST_F(TraceFileTest, OneThatIsFullIsToldOnceAndClosed)
+{
+    view.open("/dev/full");
+    view.expectWritten();
+    view.write(messageOf("1"));
+    view.write(messageOf("2"));
+    EXPECT_EQ("\"/dev/full\" cannot be written any more", complaint([&] { view.expectWritten(); }));
+    EXPECT_EQ("done", complaint([&] { view.expectWritten(); }));
+    EXPECT_EQ("trace file: found none, expected one that \"traceFile\" has begun", complaint([&] { view.close(); }));
+}
+
+TEST_F(TraceFileTest, ANewOneForgetsThatTheOneBeforeWasFull)
+{
+    view.open("/dev/full");
+    view.write(messageOf("1"));
+    view.open(folder.pathOf("trace"));
+    EXPECT_EQ("done", complaint([&] { view.expectWritten(); }));
 }
 
 TEST_F(TraceFileTest, OnlyAnOpenOneIsClosed)

@@ -150,7 +150,7 @@ TEST_F(WatchViewTest, IsAsGoodAsItsOutput)
     text.print("open");
     view.closeLine();
     EXPECT_EQ("open\n", output.str());
-    look.oneScreen = true;
+    look.screen = look.errorScreen = true;
     TextOutput oneScreen(output, errors, look);
     WatchView viewOfOne(watch, oneScreen, look);
     viewOfOne.interrupted();

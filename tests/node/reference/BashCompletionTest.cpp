@@ -121,7 +121,11 @@ INSTANTIATE_TEST_SUITE_P(
             "\"throws=true\"\n",
             "throws=true\n"},
         Row{"./kel-node f a:b:c", {Program, "f", "a", ":", "b", ":", "c"}, R"("f" "a:b:c)", "\"a:b:cd\"\n", "cd\n"},
-        Row{"./kel-node f a=1 b=", {Program, "f", "a", "=", "1", "b", "="}, R"("f" "a=1" "b=)", "\"b=\n", "\n"},
+        Row{"./kel-node f a=1 b=",
+            {Program, "f", "a", "=", "1", "b", "="},
+            R"("f" "a=1" "b=)",
+            "\"b=\n",
+            "[-o nospace]\n\n"},
         Row{"./kel-node f a= b", {Program, "f", "a", "=", "b"}, R"("f" "a=" "b)", "\"bc\"\n", "bc\n"},
         Row{"./kel-node f fo", {Program, "f", "fo"}, R"("f" "fo)", "\"folder/\n", "[-o nospace]\nfolder/\n"}));
 

@@ -26,10 +26,12 @@ TEST(CommandReferenceTest, BeginsWithHowACommandIsTyped)
 {
     EXPECT_THAT(commandReference(), StartsWith(R"(# Commands
 
-What `kel-node` carries out: on its command line, in a script, at its prompt. The beginning of a name does for the whole
-where no other command begins so. Numbers are decimal, or hexadecimal with 0x before them. A word with blanks in it
-stands in double quotes; between them, a backslash takes the next letter as it is. A line that begins with # is a
-comment.
+What `kel-node` carries out: on its command line, in a script, at its prompt.
+
+The beginning of a name does for the whole where no other command begins so. Whole numbers are decimal, or hexadecimal
+with 0x before them; times and all others are decimal. Options of a command stand before its arguments, as "-n 5" or
+"-n5"; "--" ends them. A word with blanks in it stands in double quotes; between them, a backslash takes the next letter
+as it is. A line that begins with '#' is a comment.
 
 ## Debug commands
 

@@ -5,6 +5,7 @@
 #include "node/reference/Fill.h"
 
 using node::reference::fill;
+using node::reference::fillText;
 
 namespace
 {
@@ -25,6 +26,20 @@ TEST(FillTest, ALineHas80ColumnsAtMost)
     EXPECT_EQ("-" + half + " " + half + "\n", fill({half, half}, " ", "-"));
     EXPECT_EQ("--" + half + "\n--" + half + "\n", fill({half, half}, " ", "--"));
     EXPECT_EQ("-" + half + "\n-" + half + "\n", fill({half, half}, "  ", "-"));
+}
+
+TEST(FillTest, ALineHasAsManyColumnsAsItIsToldToHave)
+{
+    EXPECT_EQ("a b\nc\n", fill({"a", "b", "c"}, " ", "", 3));
+    EXPECT_EQ("a b\nc\n", fill({"a", "b", "c"}, " ", "", 4));
+    EXPECT_EQ("a b c\n", fill({"a", "b", "c"}, " ", "", 5));
+}
+
+TEST(FillTest, OfATextItsWordsAreTaken)
+{
+    EXPECT_EQ("", fillText(" \n", "  "));
+    EXPECT_EQ("  one two\n  three\n", fillText(" one\ntwo  three\n", "  ", 9));
+    EXPECT_EQ(std::string(80, 'a') + "\nb\n", fillText(std::string(80, 'a') + " b", ""));
 }
 
 TEST(FillTest, AWordThatIsTooLongHasItsOwnLine)

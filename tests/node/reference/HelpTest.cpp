@@ -95,12 +95,22 @@ The command line:
   exit                     Leave the prompt, or end the script
 
 "help COMMAND" prints what a command takes, "help scenario" every key of a
-scenario file. The beginning of a command's name does for the whole where no
-other one begins so. Numbers are decimal, or hexadecimal with 0x before them. A
-word with blanks in it stands in double quotes.
+scenario file.
 
-Exit status: 0 done, 1 a command failed, 2 a line or scenario not understood,
-3 the node did not start.
+The beginning of a name does for the whole where no other command begins so.
+Whole numbers are decimal, or hexadecimal with 0x before them; times and all
+others are decimal. Options of a command stand before its arguments, as "-n 5"
+or "-n5"; "--" ends them. A word with blanks in it stands in double quotes;
+between them, a backslash takes the next letter as it is. A line that begins
+with '#' is a comment.
+
+Exit status:
+  0                        All is done
+  1                        A command failed, or Ctrl-C ended it; a watch that
+                           Ctrl-C ends has the status of its last round
+  2                        An option, a line or a scenario was not understood;
+                           nothing of it was done
+  3                        The node did not start
 )",
               overview());
 }
@@ -118,6 +128,7 @@ TEST(HelpTest, OnScenariosIsTheReferenceOfTheirKeys)
 {
     EXPECT_EQ(node::scenario::reference(), helpOn("scenario"));
     EXPECT_TRUE(helpOn("scenario").starts_with("# Scenario files\n"));
+    EXPECT_EQ(node::scenario::reference(), helpOn("scen"));
 }
 
 TEST(HelpTest, OnACommandDescribesIt)

@@ -9,6 +9,7 @@
 #include "node/commands/Command.h"
 #include "node/commands/TemporaryFolder.h"
 #include "node/reference/Help.h"
+#include "node/reference/HowTo.h"
 #include "node/reference/ManPage.h"
 #include "node/reference/ProgramOptions.h"
 #include "node/reference/Shell.h"
@@ -118,10 +119,7 @@ std::string flowing(const std::string& text)
 
 TEST_F(ManPageTest, TellsWhatEachCommandTakes)
 {
-    std::string expected = "COMMANDS The beginning of a name does for the whole where no other command begins so. "
-                           "Numbers are decimal, or hexadecimal with 0x before them. A word with blanks in it stands "
-                           "in double quotes; between them, a backslash takes the next letter as it is. A line that "
-                           "begins with # is a comment.";
+    std::string expected = std::string("COMMANDS ") + node::reference::HowToType;
     for (const auto& group : node::commands::commandGroups())
     {
         expected += " " + group.heading;
@@ -176,9 +174,11 @@ SCENARIOS
 EXIT STATUS
        0      All is done.
 
-       1      A command failed.
+       1      A command failed, or Ctrl-C ended it; a watch that Ctrl-C ends
+              has the status of its last round.
 
-       2      A line or a scenario was not understood; nothing of it was done.
+       2      An option, a line or a scenario was not understood; nothing of
+              it was done.
 
        3      The node did not start.
 

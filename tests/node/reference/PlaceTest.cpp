@@ -94,10 +94,30 @@ TEST(PlaceTest, OptionsStandBeforeAllOthersEachOnce)
     EXPECT_EQ("[] b () ", placeText(arguments, {"1", ""}));
 }
 
-TEST(PlaceTest, AnOptionThatIsGivenAgainIsNone)
+TEST(PlaceTest, OptionsMayHaveTheirValueInTheSameWord)
 {
-    EXPECT_EQ("[] a (-n,) $",
-              placeText({option("-n", "seconds"), argument("a", Extent::Command)}, {"-n", "1", "-n", ""}));
+    const std::vector<Argument> arguments = {option("-n", "seconds"), option("-c", "count"), argument("a")};
+    EXPECT_EQ("[-c] a () ", placeText(arguments, {"-n5", ""}));
+    EXPECT_EQ("[] a () ", placeText(arguments, {"-n5", "-c1", ""}));
+    EXPECT_EQ("[] count () ", placeText(arguments, {"-n5", "-c", ""}));
+}
+
+TEST(PlaceTest, TwoHyphensEndTheOptions)
+{
+    const std::vector<Argument> arguments = {option("-n", "seconds"), argument("a"), argument("b")};
+    EXPECT_EQ("[] a () ", placeText(arguments, {"--", ""}));
+    EXPECT_EQ("[] a (-) ", placeText(arguments, {"-n", "1", "--", "-"}));
+    EXPECT_EQ("[] b () ", placeText(arguments, {"--", "-n", ""}));
+    EXPECT_EQ("[] seconds (--) ", placeText(arguments, {"-n", "--"}));
+    EXPECT_EQ("[-n] a (--) ", placeText(arguments, {"--"}));                      // the cursor is still at it
+    EXPECT_EQ("[] b () ", placeText({argument("a"), argument("b")}, {"--", ""})); // there are no options to end
+}
+
+TEST(PlaceTest, AnOptionThatIsGivenAgainTakesAValueAllTheSame)
+{
+    const std::vector<Argument> arguments = {option("-n", "seconds"), argument("a", Extent::Command)};
+    EXPECT_EQ("[] seconds () ", placeText(arguments, {"-n", "1", "-n", ""}));
+    EXPECT_EQ("[] a () ", placeText(arguments, {"-n", "1", "-n", "1", ""}));
 }
 
 TEST(PlaceTest, AWordThatOnlyLooksLikeAnOptionIsAnArgument)

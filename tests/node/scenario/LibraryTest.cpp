@@ -120,7 +120,7 @@ TEST_F(LibraryTest, AnUnknownNameIsRefusedWithTheNameThatIsSpeltAlike)
 {
     write("rain-fade.toml", "");
     write("clear-sky.toml", "");
-    const std::string expected = ", expected a file, or a name that \"listScenarios\" lists";
+    const std::string expected = ", expected a .toml file, or a name that \"listScenarios\" lists";
     EXPECT_EQ("scenario: found \"clear_sky\"" + expected + " (did you mean clear-sky?)", refusalOf("clear_sky"));
     EXPECT_EQ("scenario: found \"Rain-Fade\"" + expected + " (did you mean rain-fade?)", refusalOf("Rain-Fade"));
     EXPECT_EQ("scenario: found \"storm\"" + expected, refusalOf("storm"));
@@ -150,7 +150,7 @@ TEST_F(LibraryTest, AFileThatMayNotBeReadIsRefused)
     std::filesystem::permissions(pathOf(""), std::filesystem::perms::all);
     std::filesystem::permissions(pathOf("secret.toml"), std::filesystem::perms::none);
     const NoSuperuser nobody;
-    EXPECT_EQ(pathOf("secret.toml") + ": found no permission to read it, expected a scenario file",
+    EXPECT_EQ(pathOf("secret.toml") + ": found no permission, expected a scenario file",
               refusalOf(pathOf("secret.toml")));
 }
 
@@ -162,7 +162,7 @@ TEST_F(LibraryTest, AFileInAFolderThatMayNotBeEnteredIsRefused)
     std::filesystem::permissions(pathOf("closed"), std::filesystem::perms::none);
     {
         const NoSuperuser nobody;
-        EXPECT_EQ(pathOf("closed/own.toml") + ": found no permission to read it, expected a scenario file",
+        EXPECT_EQ(pathOf("closed/own.toml") + ": found no permission, expected a scenario file",
                   refusalOf(pathOf("closed/own.toml")));
     }
     std::filesystem::permissions(pathOf("closed"), std::filesystem::perms::owner_all);
@@ -172,7 +172,7 @@ TEST_F(LibraryTest, ANameThatIsLongerThanAFileNameMayBeIsRefused)
 {
     std::string name(5000, 'a');
     name += ".toml";
-    EXPECT_EQ(name + ": found it unreadable (File name too long), expected a scenario file", refusalOf(name));
+    EXPECT_EQ(name + ": found it unusable (File name too long), expected a scenario file", refusalOf(name));
 }
 
 } // namespace

@@ -124,7 +124,7 @@ TEST(UnknownChannelTest, ThereAreTwoChannels)
 /// A point or fault is named by its place among those of its array.
 TEST(UnknownKeyInArrayTest, TheNumberOfThePointIsTold)
 {
-    EXPECT_EQ("link.toml:4:1: found an unknown key \"at\", expected a key of weather.fade[2]",
+    EXPECT_EQ("link.toml:4:1: found an unknown key \"at\", expected a key of weather.fade[2] (did you mean at_s?)",
               refusal("[[weather.fade]]\nat_s = 1\n[[weather.fade]]\nat = 2\n"));
     EXPECT_EQ("link.toml:4:1: found an unknown key \"chanel\", expected a key of fault[2] (did you mean channel?)",
               refusal("[[fault]]\ncall = \"tiManageXpic\"\n[[fault]]\nchanel = 1\n"));

@@ -6,6 +6,8 @@
 using node::radio::Xpic;
 using node::radio::XpicState;
 using node::services::hundredths;
+using node::services::optionOf;
+using node::services::setOption;
 using node::services::stateOf;
 using node::services::tenths;
 using node::services::unknownChannel;
@@ -46,6 +48,18 @@ TEST(AnswerTest, ARefusalNamesTheChannelsThatTheLinkHas)
 {
     EXPECT_EQ("radio channel: found 7, expected 1 or 2", unknownChannel(7, node::radio::RadioLink()));
     EXPECT_EQ("radio channel: found 7, expected 1", unknownChannel(7, node::radio::RadioLink(oneChannel())));
+}
+
+TEST(AnswerTest, TheOptionsOfAnAcquisitionAreOneNumber)
+{
+    for (const std::uint32_t option : {0U, 1U, 2U, 3U})
+    {
+        Xpic xpic;
+        setOption(xpic, option);
+        EXPECT_EQ(option == 1 || option == 3, xpic.retries) << option;
+        EXPECT_EQ(option == 2 || option == 3, xpic.reacquires) << option;
+        EXPECT_EQ(option, optionOf(xpic));
+    }
 }
 
 } // namespace

@@ -175,13 +175,18 @@ host> aaaaaaaaaabbbbbbbbbbccccccccccdddd
 ddddddeeeeeeeeeeffffffffffgggggggggghhhh
 hhhhhhiiiiiiiiii|
 )");
+    // This terminal leaves the rows as they were; of one that breaks them anew, the rows above would be erased.
     session.resize({.rows = 24, .columns = 120});
     session.expectScreen(R"(host> one
 <one>
+host> aaaaaaaaaabbbbbbbbbbccccccccccdddd
+ddddddeeeeeeeeeeffffffffffgggggggggghhhh
 host> aaaaaaaaaabbbbbbbbbbccccccccccddddddddddeeeeeeeeeeffffffffffgggggggggghhhhhhhhhhiiiiiiiiii|
 )");
     session.type(key::CtrlA + ".", R"(host> one
 <one>
+host> aaaaaaaaaabbbbbbbbbbccccccccccdddd
+ddddddeeeeeeeeeeffffffffffgggggggggghhhh
 host> .|aaaaaaaaaabbbbbbbbbbccccccccccddddddddddeeeeeeeeeeffffffffffgggggggggghhhhhhhhhhiiiiiiiiii
 )");
 }

@@ -58,10 +58,10 @@ TEST(DidYouMeanTest, AThirdOfTheLettersMayDiffer)
     };
     for (const Row& row :
          {Row{"", "a", true}, Row{"", "ab", false}, Row{"a", "", true}, Row{"a", "b", true}, Row{"ab", "cd", false},
-          Row{"ab", "abc", true}, Row{"ab", "abcd", false}, Row{"abcde", "abcdX", true}, Row{"abcde", "abcXX", false},
+          Row{"ab", "abc", true}, Row{"ab", "Xabc", false}, Row{"abcde", "abcdX", true}, Row{"abcde", "abcXX", false},
           Row{"abcdef", "abcdXX", true}, Row{"abcdef", "abcXXX", false}, Row{"abcdefgh", "abcdefXX", true},
           Row{"abcdefgh", "abcdeXXX", false}, Row{"abcdefghi", "abcdefXXX", true}, Row{"abcdefghi", "abcdeXXXX", false},
-          Row{"abcdef", "abcdefXX", true}, Row{"abcdef", "abcdefXXX", false}})
+          Row{"abcdef", "XXabcdef", true}, Row{"abcdef", "XXXabcdef", false}})
     {
         EXPECT_EQ(row.near ? " (did you mean " + row.candidate + "?)" : "", didYouMean(row.word, {row.candidate}))
             << row.word << " and " << row.candidate;
@@ -72,6 +72,14 @@ TEST(DidYouMeanTest, TheClosestCandidateWins)
 {
     EXPECT_EQ(" (did you mean abcdefX?)", didYouMean("abcdef", {"abcdXX", "abcdefX", "abcXef7"}));
     EXPECT_EQ(" (did you mean abcdef?)", didYouMean("abcdef", {"abcdeX", "abcdef", "abcdXf"}));
+}
+
+TEST(DidYouMeanTest, TheOnlyCandidateThatBeginsSoWins)
+{
+    EXPECT_EQ(" (did you mean getCtStatus?)", didYouMean("getCT", {"getX", "getCtStatus", "getC"}));
+    EXPECT_EQ(" (did you mean rain-front?)", didYouMean("r", {"s", "rain-front"}));
+    EXPECT_EQ("", didYouMean("sta", {"starting", "stay-on-and-on"}));
+    EXPECT_EQ("", didYouMean("", {"starting"}));
 }
 
 TEST(DidYouMeanTest, OfCandidatesThatAreAsCloseTheFirstWins)
@@ -120,6 +128,11 @@ TEST_P(RandomDidYouMeanTest, TheFirstOfTheClosestWithinAThirdIsNamed)
         const auto closest =
             std::min_element(candidates.begin(), candidates.end(),
                              [&](const auto& a, const auto& b) { return distance(word, a) < distance(word, b); });
+        const auto begins = [&](const std::string& candidate) { return !word.empty() && candidate.starts_with(word); };
+        if (std::count_if(candidates.begin(), candidates.end(), begins) == 1)
+        {
+            continue;
+        }
         const bool near = distance(word, *closest) <= std::max<std::size_t>(1, word.size() / 3);
         EXPECT_EQ(near ? " (did you mean " + *closest + "?)" : "", didYouMean(word, candidates));
     }

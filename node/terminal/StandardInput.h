@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace node::terminal
+{
+
+/// Reads what standard input has, and adds it to the bytes.
+/// @return false at its end
+bool readInput(std::string& bytes);
+
+} // namespace node::terminal
