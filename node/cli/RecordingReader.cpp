@@ -163,6 +163,10 @@ std::optional<Entry> RecordingReader::next()
     std::string line;
     if (!std::getline(m_file, line))
     {
+        if (m_file.bad())
+        {
+            throw InputError(m_name, "it unreadable", "a file that \"record\" wrote");
+        }
         return std::nullopt;
     }
     ++m_line;

@@ -4,6 +4,7 @@
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 #include <utility>
 
 #include <fmt/format.h>
@@ -96,8 +97,10 @@ Answer Session::attempt(const std::function<void()>& step)
     Answer answer = beginAnswer("");
     guard(answer, step);
     answer.trace = takeTrace();
+    note(answer, "trace file", [&] { expectTraceFileWritten(); });
     if (answer.status != Status::Done)
     {
+        finishTrace(answer);
         show(answer);
     }
     return answer;
@@ -136,10 +139,7 @@ Answer Session::perform(const std::vector<std::string>& words, const std::string
               command = &commands::commandNamed(words.front());
               answer.command = command->name;
               answer.channel = channelOf(*command, answer.arguments);
-              letTimeGoOn();
-              answer.time = nodeTime().value_or(radio::Ticks(0));
-              m_now = answer.time.count();
-              answer.outcome = call(*command, answer.arguments);
+              answer.outcome = call(*command, answer);
               if (answer.outcome->result != 0)
               {
                   answer.status = Status::CommandFailed;
@@ -156,24 +156,38 @@ Answer Session::perform(const std::vector<std::string>& words, const std::string
         note(answer, "recording", [&] { keep(*command, ofNode, m_desk.starts() != starts); });
     }
     note(answer, "trace file", [&] { expectTraceFileWritten(); });
-    answer.trace.insert(answer.trace.begin(), m_toTell.begin(), m_toTell.end());
-    m_toTell.clear();
-    std::erase_if(answer.trace, [this](const output::TimedMessage& message) { return !lets(message.message); });
+    finishTrace(answer);
     return answer;
 }
 
-commands::Outcome Session::call(const commands::Command& command, const std::vector<std::string>& arguments)
+void Session::finishTrace(Answer& answer)
+{
+    answer.trace.insert(answer.trace.begin(), m_toTell.begin(), m_toTell.end());
+    m_toTell.clear();
+    std::erase_if(answer.trace, [this](const output::TimedMessage& message) { return !lets(message.message); });
+}
+
+commands::Outcome Session::call(const commands::Command& command, Answer& answer)
 {
     try
     {
-        return command.call(m_desk, *this, arguments);
+        letTimeGoOn();
+        answer.time = nodeTime().value_or(radio::Ticks(0));
+        m_now = answer.time.count();
+        return command.call(m_desk, *this, answer.arguments);
     }
     catch (const commands::Interrupted&)
     {
-        m_interrupted = true;
-        m_output->interrupted();
+        noteInterrupt();
         throw;
     }
+}
+
+void Session::noteInterrupt()
+{
+    m_interrupted = true;
+    const std::lock_guard lock(m_mutex);
+    m_output->interrupted();
 }
 
 void Session::keep(const commands::Command& command, const Answer& answer, bool begun)
@@ -233,6 +247,7 @@ bool Session::good() const
 
 void Session::closeLine()
 {
+    const std::lock_guard lock(m_mutex);
     m_output->closeLine();
 }
 
@@ -293,8 +308,7 @@ int Session::watch(const commands::Watch& watch)
         const bool last = round == watch.rounds || !m_output->good() || m_interrupted;
         if (!last && wait())
         {
-            m_interrupted = true;
-            m_output->interrupted();
+            noteInterrupt();
         }
         if (last || m_interrupted)
         {
@@ -345,11 +359,13 @@ void Session::stopTraceFile()
 
 bool Session::canCreate(const std::string& file)
 {
-    const bool isThere = std::filesystem::exists(file);
+    namespace fs = std::filesystem;
+    std::error_code unknown;
+    const bool isThere = fs::exists(fs::symlink_status(file, unknown));
     const bool opens = std::ofstream(file, std::ios::app).is_open();
     if (opens && !isThere)
     {
-        std::filesystem::remove(file);
+        fs::remove(file, unknown);
     }
     return opens;
 }

@@ -107,13 +107,19 @@ public:
 private:
     output::Answer beginAnswer(const std::string& place) const;
     output::Answer perform(const std::vector<std::string>& words, const std::string& place);
-    commands::Outcome call(const commands::Command& command, const std::vector<std::string>& arguments);
+
+    /// Calls the command with the answer's arguments, after the time that has gone.
+    commands::Outcome call(const commands::Command& command, output::Answer& answer);
+    void noteInterrupt();
     void show(const output::Answer& answer);
 
     /// Keeps the command for recordings.
     /// @param begun  by the command, a node
     void keep(const commands::Command& command, const output::Answer& answer, bool begun);
     void expectTraceFileWritten();
+
+    /// Gives the answer what belongs to no command, and leaves out what is not to be seen.
+    void finishTrace(output::Answer& answer);
     void receive(const trace::Message& message);
     std::vector<output::TimedMessage> takeTrace();
 

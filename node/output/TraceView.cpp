@@ -32,7 +32,6 @@ void TraceView::open(const std::string& file)
     }
     m_file = std::move(opened);
     m_name = file;
-    m_isLost = false;
 }
 
 void TraceView::close()
@@ -42,7 +41,7 @@ void TraceView::close()
         throw wording::InputError("trace file", "none", "one that \"traceFile\" has begun");
     }
     m_file.close();
-    m_isLost = !m_file;
+    m_lost = m_file ? "" : m_name;
     expectWritten();
 }
 
@@ -51,15 +50,15 @@ void TraceView::write(const TimedMessage& message)
     if (m_file.is_open() && !(m_file << toLine(toJson(message)) << std::flush))
     {
         m_file.close();
-        m_isLost = true;
+        m_lost = m_name;
     }
 }
 
 void TraceView::expectWritten()
 {
-    if (std::exchange(m_isLost, false))
+    if (const std::string lost = std::exchange(m_lost, {}); !lost.empty())
     {
-        throw commands::CommandError(wording::quoted(m_name) + " cannot be written any more");
+        throw commands::CommandError(wording::quoted(lost) + " cannot be written any more");
     }
 }
 

@@ -37,7 +37,7 @@ private:
     std::int32_t m_level = commands::TraceLevel::Highest;
     std::string m_name; ///< of the file
     std::ofstream m_file;
-    bool m_isLost = false; ///< the file could not be written any more, which nobody has been told
+    std::string m_lost; ///< the file that could not be written any more, which nobody has been told; or ""
 };
 
 } // namespace node::output

@@ -56,9 +56,21 @@ WatchView::WatchView(const commands::Watch& watch, TextOutput& output, const Loo
 {
 }
 
+WatchView::~WatchView()
+{
+    for (const TimedMessage& message : m_toDraw)
+    {
+        m_output.trace(message);
+    }
+}
+
 void WatchView::trace(const TimedMessage& message)
 {
-    if (!isFrameAll())
+    if (isFrameAll())
+    {
+        m_toDraw.push_back(message);
+    }
+    else
     {
         m_output.trace(message);
     }
@@ -85,6 +97,7 @@ std::vector<std::string> WatchView::print(const Answer& answer, const std::vecto
 
 std::vector<std::string> WatchView::draw(const Answer& answer, std::vector<std::string> lines)
 {
+    m_toDraw.clear(); // the answer has them
     if (isFrameAll())
     {
         std::string behind;

@@ -18,6 +18,11 @@ public:
     /// @param output  that the rounds are printed to; borrowed
     WatchView(const commands::Watch& watch, TextOutput& output, const Look& look);
 
+    /// Tells the messages that came too late to be drawn.
+    ~WatchView() override;
+    WatchView(const WatchView&) = delete;
+    WatchView& operator=(const WatchView&) = delete;
+
     /// Where a round is drawn on the screen that errors go to as well, its trace messages are drawn with it; elsewhere
     /// they go where they always go.
     void trace(const TimedMessage& message) override;
@@ -46,7 +51,8 @@ private:
     TextOutput& m_output;
     Look m_look;
     bool m_first = true;
-    std::vector<std::string> m_before; ///< lines of the round before
+    std::vector<TimedMessage> m_toDraw; ///< messages of the next frame
+    std::vector<std::string> m_before;  ///< lines of the round before
 };
 
 } // namespace node::output

@@ -61,4 +61,18 @@ bool HeldSignals::isHeldOutside(int signal) const
     return sigismember(&m_before, signal) == 1;
 }
 
+std::vector<int> notIgnored(const std::vector<int>& candidates)
+{
+    std::vector<int> signals;
+    for (const int signal : candidates)
+    {
+        struct sigaction action = {};
+        if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN)
+        {
+            signals.push_back(signal);
+        }
+    }
+    return signals;
+}
+
 } // namespace node::terminal

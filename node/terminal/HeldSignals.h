@@ -37,4 +37,7 @@ private:
     sigset_t m_before{};
 };
 
+/// Those of the signals that the program was not started to ignore.
+std::vector<int> notIgnored(const std::vector<int>& candidates);
+
 } // namespace node::terminal

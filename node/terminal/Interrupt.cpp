@@ -5,7 +5,7 @@
 namespace node::terminal
 {
 
-Interrupt::Interrupt() : m_signals({SIGINT})
+Interrupt::Interrupt() : m_signals(notIgnored({SIGINT}))
 {
 }
 

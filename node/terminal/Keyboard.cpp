@@ -3,9 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <initializer_list>
 #include <system_error>
-#include <vector>
 
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -28,21 +26,6 @@ Descriptor openAlarm()
         throw std::system_error(errno, std::generic_category(), "eventfd");
     }
     return alarm;
-}
-
-/// Those signals that the program was not started to ignore.
-std::vector<int> notIgnored(std::initializer_list<int> candidates)
-{
-    std::vector<int> signals;
-    for (const int signal : candidates)
-    {
-        struct sigaction action = {};
-        if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN)
-        {
-            signals.push_back(signal);
-        }
-    }
-    return signals;
 }
 
 } // namespace

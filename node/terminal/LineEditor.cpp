@@ -263,9 +263,10 @@ void LineEditor::Implementation::stop()
     goOn();
 }
 
-/// The terminal may have been left in any state.
+/// The terminal may have been left in any state. libedit does not touch it where it believes to have done so already.
 void LineEditor::Implementation::goOn()
 {
+    el_set(m_editor.get(), EL_PREP_TERM, 0);
     el_set(m_editor.get(), EL_PREP_TERM, 1);
     std::fputc('\r', stdout);
     m_shown.draw();

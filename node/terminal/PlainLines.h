@@ -14,8 +14,8 @@ namespace node::terminal
 class PlainLines
 {
 public:
-    /// Shows the prompt, on standard error, and lets a line be typed. Afterwards the cursor is at the beginning of a
-    /// row.
+    /// Shows the prompt, on standard error, which nobody else writes to meanwhile, and lets a line be typed. Afterwards
+    /// the cursor is at the beginning of a row, where the line was typed behind the prompt and not ahead of it.
     LineEditor::Typed read(const std::string& prompt);
 
 private:

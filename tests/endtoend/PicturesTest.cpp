@@ -55,4 +55,19 @@ TEST_F(PicturesTest, AFileThatCannotBeWrittenIsToldBeforeAnyTimeGoes)
     EXPECT_EQ(2, run.status);
 }
 
+TEST_F(PicturesTest, ANameThatIsTooLongIsToldAsOthersAre)
+{
+    const Finished run = plot(folder.pathOf(std::string(300, 'x') + ".svg"));
+    EXPECT_TRUE(run.errors.ends_with("\", expected a file that can be written, ending in .svg or .png\n"))
+        << run.errors;
+    EXPECT_EQ(2, run.status);
+}
+
+TEST_F(PicturesTest, ALinkStaysALink)
+{
+    fs::create_symlink(folder.pathOf("target.svg"), folder.pathOf("link.svg"));
+    EXPECT_EQ(1, plot(folder.pathOf("link.svg")).status);
+    EXPECT_TRUE(fs::is_symlink(folder.pathOf("link.svg")));
+}
+
 } // namespace

@@ -189,31 +189,53 @@ TEST_F(TerminalTest, ADumbTerminalGetsNoEscapeSequences)
     EXPECT_EQ(std::string::npos, terminal.readToTheEnd().find('\x1B'));
 }
 
-/// A shell, which stops the program and lets it go on.
-TEST(StoppedProgramTest, TheLineIsThereAgainAfterCtrlZ)
+/// A shell, which lets the program go on that was stopped while a command was typed.
+class StoppedProgramTest : public ::testing::Test
 {
-    const TemporaryFolder home;
-    const Terminal bash({"/bin/bash", "--norc", "--noprofile"},
-                        {{"HOME=" + home.path(), "TERM=xterm", "PS1=$ ", "LC_ALL=C.UTF-8", "PATH=/usr/bin:/bin",
-                          "INPUTRC=" + home.write("inputrc", "set enable-bracketed-paste off\n")}});
-    bash.readUntil("$ ");
-    bash.type(std::string(KEL_NODE) + " --clock told\n");
-    bash.readUntil("0:00:00.0>");
-    const auto atThePrompt = bash.modes().c_lflag;
-    bash.type("getXpicP");
-    bash.readUntil("getXpicP");
+protected:
+    StoppedProgramTest()
+    {
+        bash.readUntil("$ ");
+        bash.type(std::string(KEL_NODE) + " --clock told\n");
+        bash.readUntil("0:00:00.0>");
+        bash.type("getXpicP");
+        bash.readUntil("getXpicP");
+        atThePrompt = bash.modes().c_lflag;
+    }
+
+    /// After a stop: the shell has the terminal as it wants it, and gives it back.
+    void expectTheLineAgain() const
+    {
+        bash.readUntil("Stopped");
+        bash.readUntil("$ ");
+        bash.type("stty sane; stty -a | grep -o ' icanon'\n");
+        bash.readUntil("\n icanon");
+        bash.type("fg\n");
+        bash.readUntil("getXpicP"); // the line is drawn anew
+        EXPECT_EQ(atThePrompt, bash.modes().c_lflag);
+        bash.type("\t1\n");
+        EXPECT_TRUE(bash.readUntil("\n0\r\n").ends_with("\n0\r\n"));
+        bash.type("exit\n");
+        bash.readUntil("$ ");
+    }
+
+    TemporaryFolder home;
+    Terminal bash{{"/bin/bash", "--norc", "--noprofile"},
+                  {{"HOME=" + home.path(), "TERM=xterm", "PS1=$ ", "LC_ALL=C.UTF-8", "PATH=/usr/bin:/bin",
+                    "INPUTRC=" + home.write("inputrc", "set enable-bracketed-paste off\n")}}};
+    tcflag_t atThePrompt = 0;
+};
+
+TEST_F(StoppedProgramTest, TheLineIsThereAgainAfterCtrlZ)
+{
     bash.type("\x1A");
-    bash.readUntil("Stopped");
-    bash.readUntil("$ ");
-    bash.type("stty -a | grep -o ' icanon'\n");
-    bash.readUntil("\n icanon");
-    bash.type("fg\n");
-    bash.readUntil("getXpicP"); // the line is drawn anew
-    EXPECT_EQ(atThePrompt, bash.modes().c_lflag);
-    bash.type("\t1\n");
-    EXPECT_TRUE(bash.readUntil("\n0\r\n").ends_with("\n0\r\n"));
-    bash.type("exit\n");
-    bash.readUntil("$ ");
+    expectTheLineAgain();
+}
+
+TEST_F(StoppedProgramTest, TheLineIsThereAgainAfterAStopThatNobodyCanHold)
+{
+    bash.signalForeground(SIGSTOP);
+    expectTheLineAgain();
 }
 
 } // namespace

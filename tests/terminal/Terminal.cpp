@@ -114,6 +114,11 @@ termios Terminal::modes() const
     return modes;
 }
 
+void Terminal::signalForeground(int signal) const
+{
+    kill(-tcgetpgrp(m_terminal), signal);
+}
+
 void Terminal::signal(int signal) const
 {
     EXPECT_EQ(0, kill(m_program, signal));

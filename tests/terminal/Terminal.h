@@ -47,6 +47,9 @@ public:
     /// How the terminal treats what is typed and printed.
     termios modes() const;
 
+    /// Sends a signal to whoever has the terminal: the program, or what it has started.
+    void signalForeground(int signal) const;
+
     /// Sends the program a signal.
     void signal(int signal) const;
 

@@ -145,6 +145,7 @@ TEST_F(ClockTest, CtrlCEndsTheCommandThatALongTimeComesBefore)
     now += std::chrono::hours(100);
     carryOut("startDpd 1");
     EXPECT_EQ("kel-node: startDpd: interrupted\n", errors.str());
+    EXPECT_TRUE(session.interrupted());
     EXPECT_THAT(desk.recorder.calls, ::testing::IsEmpty());
     EXPECT_EQ(Ticks(600), linkTime());
     carryOut("startDpd 1");

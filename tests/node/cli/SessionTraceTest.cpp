@@ -207,4 +207,30 @@ TEST(SessionSinkTest, MessagesGoToTheLastSessionAndBackWhenItEnds)
     node::trace::setSink(before);
 }
 
+TEST_F(SessionTraceTest, AFileThatIsFullAtTheStartIsToldByTheStep)
+{
+    const auto answer = session.attempt(
+        [&]
+        {
+            session.startTraceFile("/dev/full");
+            write(3, "lost");
+        });
+    EXPECT_EQ(node::cli::Status::CommandFailed, answer.status);
+    EXPECT_EQ("trace file: \"/dev/full\" cannot be written any more", answer.error);
+}
+
+TEST_F(SessionTraceTest, AStepThatFailsShowsWhatTheFilterLetsThroughAndWhatWasToBeTold)
+{
+    session.filterTrace("STT.*", 2);
+    session.tellNext({{Ticks(0), {"STT.one", 1, "", 0, "", "of a start"}}});
+    session.attempt(
+        [&]
+        {
+            write(2, "important");
+            write(3, "less so");
+            throw node::startup::StartUpError("it does not start");
+        });
+    EXPECT_THAT(answered(), ElementsAre("0s STT.one:1 \"of a start\"", "0s STT.one:2 \"important\""));
+}
+
 } // namespace

@@ -169,12 +169,14 @@ TEST_F(TraceFileTest, OneThatIsFullIsToldOnceAndClosed)
     EXPECT_EQ("trace file: found none, expected one that \"traceFile\" has begun", complaint([&] { view.close(); }));
 }
 
-TEST_F(TraceFileTest, ANewOneForgetsThatTheOneBeforeWasFull)
+TEST_F(TraceFileTest, ThatTheOneBeforeWasFullIsToldAllTheSame)
 {
     view.open("/dev/full");
     view.write(messageOf("1"));
     view.open(folder.pathOf("trace"));
-    EXPECT_EQ("done", complaint([&] { view.expectWritten(); }));
+    EXPECT_EQ("\"/dev/full\" cannot be written any more", complaint([&] { view.expectWritten(); }));
+    view.write(messageOf("2"));
+    EXPECT_EQ(lineOf("2"), folder.read("trace"));
 }
 
 TEST_F(TraceFileTest, OnlyAnOpenOneIsClosed)

@@ -223,4 +223,15 @@ TEST_F(WatchFrameTest, WithoutASizeItIs80By24)
         drawn(report));
 }
 
+TEST_F(WatchFrameTest, MessagesThatCameTooLateToBeDrawnAreToldAtTheEnd)
+{
+    const node::output::TimedMessage late = {Ticks(5), {"KEL", 3, "", 0, "", "late"}};
+    drawn("the report");
+    view->trace({Ticks(0), {"KEL", 3, "", 0, "", "drawn"}});
+    drawn("the report", "", {"drawn"});
+    view->trace(late);
+    view.reset();
+    EXPECT_EQ("0:00:00.5 [KEL] level 3: late\n", errors.str());
+}
+
 } // namespace

@@ -48,4 +48,13 @@ TEST(InterruptTest, WhatNobodyToldInsideOfAnotherIsToldThere)
     EXPECT_FALSE(outside.happened());
 }
 
+TEST(IgnoredInterruptTest, IsIgnored)
+{
+    std::signal(SIGINT, SIG_IGN);
+    Interrupt interrupt;
+    std::raise(SIGINT);
+    EXPECT_FALSE(interrupt.happened());
+    std::signal(SIGINT, SIG_DFL);
+}
+
 } // namespace
