@@ -5,7 +5,9 @@
 namespace node::terminal
 {
 
-Interrupt::Interrupt() : m_signals(notIgnored({SIGINT}))
+// Held even where the program was started to ignore it, as a shell's script does for what runs in the background: who
+// sends it to such a program wants its watch or its long command to end.
+Interrupt::Interrupt() : m_signals({SIGINT})
 {
 }
 
