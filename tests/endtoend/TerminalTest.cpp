@@ -1,5 +1,6 @@
 #include <csignal>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -26,6 +27,16 @@ protected:
     {
         terminal.type(line + "\n");
         EXPECT_EQ(line + "\r\n" + answer + prompt, terminal.readUntil(prompt));
+    }
+
+    /// Until the editor has left the line, the terminal shows nothing of what is typed.
+    void awaitEcho() const
+    {
+        constexpr int Enough = 10'000'000;
+        for (int looks = 0; looks < Enough && (terminal.modes().c_lflag & ECHO) == 0; ++looks)
+        {
+            std::this_thread::yield();
+        }
     }
 
     void expectEnd()
@@ -143,6 +154,7 @@ TEST_F(TerminalTest, CtrlCEndsALongCommandWithWhatIsDone)
 {
     terminal.type("advance 100h\n");
     EXPECT_EQ("advance 100h\r\n", terminal.readUntil("\n"));
+    awaitEcho();
     terminal.type("\x03");
     const std::string complaint = "^C\r\nkel-node: advance: interrupted\r\n";
     EXPECT_EQ(complaint, terminal.readUntil("interrupted\r\n"));
