@@ -125,7 +125,7 @@ private:
     /// Sets the trace levels that the node began with. @return its scenario
     scenario::Scenario prepare(const Entry& entry) const
     {
-        const scenario::Scenario scenario = parse(*entry.beginning, placeOf(entry));
+        scenario::Scenario scenario = parse(*entry.beginning, placeOf(entry));
         for (const auto& [channel, level] : entry.beginning->traceLevels)
         {
             trace::setLevel(channel, level);

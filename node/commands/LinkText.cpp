@@ -248,7 +248,7 @@ std::vector<report::Field> linkFields(const radio::RadioLink& link)
     std::vector<report::Field> fields;
     const auto add = [&](const std::string& under, const std::string& label, const std::string& value)
     {
-        for (report::Field& field : report::fieldsOf(label + ": " + value))
+        for (report::Field& field : report::fieldsOf(fmt::format("{}: {}", label, value)))
         {
             field.under = under;
             fields.push_back(field);

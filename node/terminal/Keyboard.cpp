@@ -1,11 +1,9 @@
 #include "node/terminal/Keyboard.h"
 
-#include <array>
 #include <cerrno>
 #include <csignal>
 #include <system_error>
 
-#include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -52,48 +50,25 @@ Keyboard::Keyboard() : m_sizeChanges({SIGWINCH}), m_continuations({SIGCONT}), m_
 
 Keyboard::Event Keyboard::wait(wchar_t& letter)
 {
+    const auto held = [](const std::optional<HeldSignals>& signals) { return signals ? signals->descriptor() : -1; };
     for (;;)
     {
         const Letter next = firstLetter(m_bytes);
-        const auto held = [](const std::optional<HeldSignals>& signals)
-        { return signals ? signals->descriptor() : -1; };
-        std::array<pollfd, 7> ready{{{held(m_endingSignals), POLLIN, 0},
-                                     {m_interrupt.descriptor(), POLLIN, 0},
-                                     {held(m_stopSignals), POLLIN, 0},
-                                     {m_continuations.descriptor(), POLLIN, 0},
-                                     {m_sizeChanges.descriptor(), POLLIN, 0},
-                                     {m_alarm.get(), POLLIN, 0},
-                                     {STDIN_FILENO, POLLIN, 0}}};
-        if (poll(ready.data(), ready.size(), next.size > 0 ? 0 : -1) < 0)
+        Sources sources{{{held(m_endingSignals), POLLIN, 0},
+                         {m_interrupt.descriptor(), POLLIN, 0},
+                         {held(m_stopSignals), POLLIN, 0},
+                         {m_continuations.descriptor(), POLLIN, 0},
+                         {m_sizeChanges.descriptor(), POLLIN, 0},
+                         {m_alarm.get(), POLLIN, 0},
+                         {STDIN_FILENO, POLLIN, 0}}};
+        if (poll(sources.data(), sources.size(), next.size > 0 ? 0 : -1) < 0)
         {
             continue; // a signal came that is not ours
         }
         // What is no letter comes first: a long paste does not hold up Ctrl-C.
-        if (ready[0].revents != 0)
+        if (const std::optional<Event> event = takeEvent(sources))
         {
-            return Event::End; // the signal waits, and ends the program when the line has been left
-        }
-        if (ready[1].revents != 0 && m_interrupt.happened())
-        {
-            m_bytes.clear();
-            return Event::Interrupted;
-        }
-        if (ready[2].revents != 0)
-        {
-            return Event::Stopping;
-        }
-        if (ready[3].revents != 0 && m_continuations.take())
-        {
-            return Event::Continued;
-        }
-        if (ready[4].revents != 0 && m_sizeChanges.take())
-        {
-            return Event::Resized;
-        }
-        eventfd_t rings = 0;
-        if (ready[5].revents != 0 && eventfd_read(m_alarm.get(), &rings) == 0)
-        {
-            return Event::Woken;
+            return *event;
         }
         if (next.size > 0)
         {
@@ -101,11 +76,42 @@ Keyboard::Event Keyboard::wait(wchar_t& letter)
             letter = next.value;
             return Event::Letter;
         }
-        if (ready[6].revents != 0 && !readInput(m_bytes))
+        if (sources[6].revents != 0 && !readInput(m_bytes))
         {
             return Event::End;
         }
     }
+}
+
+std::optional<Keyboard::Event> Keyboard::takeEvent(const Sources& sources)
+{
+    if (sources[0].revents != 0)
+    {
+        return Event::End; // the signal waits, and ends the program when the line has been left
+    }
+    if (sources[1].revents != 0 && m_interrupt.happened())
+    {
+        m_bytes.clear();
+        return Event::Interrupted;
+    }
+    if (sources[2].revents != 0)
+    {
+        return Event::Stopping;
+    }
+    if (sources[3].revents != 0 && m_continuations.take())
+    {
+        return Event::Continued;
+    }
+    if (sources[4].revents != 0 && m_sizeChanges.take())
+    {
+        return Event::Resized;
+    }
+    eventfd_t rings = 0;
+    if (sources[5].revents != 0 && eventfd_read(m_alarm.get(), &rings) == 0)
+    {
+        return Event::Woken;
+    }
+    return std::nullopt;
 }
 
 void Keyboard::stop()

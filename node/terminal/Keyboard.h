@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
+
+#include <poll.h>
 
 #include "node/terminal/Descriptor.h"
 #include "node/terminal/HeldSignals.h"
@@ -52,6 +55,10 @@ public:
     void wake();
 
 private:
+    using Sources = std::array<pollfd, 7>; ///< of events, in the order in which they are looked at
+
+    std::optional<Event> takeEvent(const Sources& sources);
+
     Interrupt m_interrupt;
     HeldSignals m_sizeChanges;
     HeldSignals m_continuations;

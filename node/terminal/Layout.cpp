@@ -92,7 +92,8 @@ std::wstring shapeOf(wchar_t letter, int column)
 {
     if (letter == L'\t')
     {
-        return std::wstring(static_cast<std::size_t>(TabulatorColumns - column % TabulatorColumns), L' ');
+        std::wstring blanks(static_cast<std::size_t>(TabulatorColumns - column % TabulatorColumns), L' ');
+        return blanks;
     }
     return wcwidth(letter) < 0 || letter == 0 ? L"?" : std::wstring(1, letter);
 }
