@@ -137,9 +137,9 @@ TEST(JsonAnswersTest, BytesThatAreNotUtf8AreThereToo)
 TEST(JsonAnswersTest, WhatKeepsTheProgramFromCommandsIsADocumentToo)
 {
     for (const auto& [options, error, status] :
-         {std::tuple{"--json --bogus", "option: found \"--bogus\", expected one that \"kel-node --help\" lists", 2},
+         {std::tuple{"--json --bogus", R"(option: found "--bogus", expected one that "kel-node --help" lists)", 2},
           {"--json -s nix showLink",
-           "scenario: found \"nix\", expected a .toml file, or a name that \"listScenarios\" lists", 2},
+           R"(scenario: found "nix", expected a .toml file, or a name that "listScenarios" lists)", 2},
           {"--json -s start-registration-throws showLink",
            "module KelDebugCmd: its constructor threw: registry is full", 3}})
     {

@@ -2,6 +2,7 @@
 #include <ostream>
 #include <string>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include "node/cli/RecordingTest.h"
@@ -134,7 +135,7 @@ TEST_F(RefusedRecordingTest, NeedsAFileWithSomethingInIt)
     {
         const auto answer = carryOut({"advance 1", "replay " + name});
         EXPECT_EQ(Status::NotUnderstood, answer.status);
-        EXPECT_EQ(name + ": found " + found + ", expected a file that \"record\" wrote", answer.error);
+        EXPECT_EQ(fmt::format("{}: found {}, expected a file that \"record\" wrote", name, found), answer.error);
         EXPECT_THAT(desk.started, IsEmpty());
     }
     EXPECT_EQ(3U, session->history().commands.size());
