@@ -16,7 +16,6 @@ using node::output::toJson;
 using node::output::toLine;
 using node::radio::Ticks;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 namespace
 {
