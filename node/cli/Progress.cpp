@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include "node/terminal/Screen.h"
+
 namespace node::cli
 {
 
@@ -51,8 +53,7 @@ void Progress::reached(double share)
 
 void Progress::draw(const std::string& text)
 {
-    constexpr const char* ClearToLineEnd = "\033[K";
-    m_draw("\r" + text + ClearToLineEnd);
+    m_draw("\r" + text + terminal::ClearToLineEnd);
     m_drawn = true;
 }
 

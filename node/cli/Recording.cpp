@@ -109,7 +109,7 @@ void Recorder::stop()
     m_file.close();
     if (!m_file)
     {
-        throw commands::CommandError(wording::quoted(m_name) + " cannot be written any more");
+        throw commands::CommandError(wording::takesNoMore(m_name));
     }
 }
 
@@ -134,7 +134,7 @@ void Recorder::writeLine(const nlohmann::ordered_json& document)
     if (!(m_file << output::toLine(document) << std::flush))
     {
         m_file.close();
-        throw commands::CommandError(wording::quoted(m_name) + " cannot be written any more");
+        throw commands::CommandError(wording::takesNoMore(m_name));
     }
 }
 

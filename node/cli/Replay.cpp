@@ -68,7 +68,6 @@ public:
 
     commands::Outcome run()
     {
-        std::optional<Entry> beginning; // of a node, by the command that follows
         int commands = 0;
         while (const auto entry = m_reader.next())
         {
@@ -78,18 +77,13 @@ public:
                 begin(*entry);
                 continue;
             }
-            if (entry->beginning)
-            {
-                beginning = entry;
-                continue;
-            }
-            const std::string difference =
-                beginning ? beginAnew(*std::exchange(beginning, std::nullopt), *entry) : repeat(*entry);
+            const Entry command = entry->beginning ? commandAfter(*entry) : *entry;
+            const std::string difference = entry->beginning ? beginAnew(*entry, command) : repeat(command);
             if (!difference.empty())
             {
                 return {1,
-                        fmt::format("{}: \"{}\" at {}: {}\n", placeOf(*entry), fmt::join(entry->words, " "),
-                                    commands::clockText(entry->time), difference),
+                        fmt::format("{}: \"{}\" at {}: {}\n", placeOf(command), fmt::join(command.words, " "),
+                                    commands::clockText(command.time), difference),
                         {}};
             }
             ++commands;
@@ -131,6 +125,19 @@ private:
             trace::setLevel(channel, level);
         }
         return scenario;
+    }
+
+    /// The command that began the node of a line.
+    Entry commandAfter(const Entry& beginning)
+    {
+        auto command = m_reader.next();
+        if (!command || command->beginning)
+        {
+            throw wording::InputError(fmt::format("{}:{}", m_file, beginning.line + 1),
+                                      command ? "another node's beginning" : "the end",
+                                      "the command that began the node of the line before");
+        }
+        return *std::move(command);
     }
 
     /// Starts the node that a command began. Its words are not carried out: the file that they name may be gone.

@@ -104,7 +104,7 @@ public:
     {
         if (!(*m_output << text << std::flush))
         {
-            throw CutShort(wording::quoted(m_name) + " cannot be written any more");
+            throw CutShort(wording::takesNoMore(m_name));
         }
     }
 

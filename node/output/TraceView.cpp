@@ -58,7 +58,7 @@ void TraceView::expectWritten()
 {
     if (const std::string lost = std::exchange(m_lost, {}); !lost.empty())
     {
-        throw commands::CommandError(wording::quoted(lost) + " cannot be written any more");
+        throw commands::CommandError(wording::takesNoMore(lost));
     }
 }
 

@@ -11,6 +11,7 @@
 #include "node/commands/LinkText.h"
 #include "node/terminal/Layout.h"
 #include "node/terminal/Letters.h"
+#include "node/terminal/Screen.h"
 
 namespace node::output
 {
@@ -20,7 +21,6 @@ namespace
 
 // Of ECMA-48, as every terminal of today understands them.
 constexpr const char* Home = "\033[H";
-constexpr const char* ClearToLineEnd = "\033[K";
 constexpr const char* ClearBelow = "\033[J";
 
 // Marks before a line.
@@ -114,12 +114,12 @@ std::vector<std::string> WatchView::draw(const Answer& answer, std::vector<std::
     const auto shown = [columns](const std::string& line) { return terminal::cutToColumns(line, columns - MarkWidth); };
     // What is above stays to be scrolled to. Each line is cleared before it is drawn: behind its last column, a
     // terminal would clear that column.
-    std::string frame = fmt::format("{}{}{}{}\n", m_first ? std::string(rows - 1, '\n') : "", Home, ClearToLineEnd,
-                                    terminal::cutToColumns(title(answer), columns));
-    for (const std::string& line :
-         fitted(marked(lines, shown), rows - 2, shown)) // one for the title, one for the cursor
+    std::string frame = fmt::format("{}{}{}{}\n", m_first ? std::string(rows - 1, '\n') : "", Home,
+                                    terminal::ClearToLineEnd, terminal::cutToColumns(title(answer), columns));
+    const auto room = rows - 2; // without the title's row and the cursor's
+    for (const std::string& line : fitted(marked(lines, shown), room, shown))
     {
-        frame += fmt::format("{}{}\n", ClearToLineEnd, line);
+        frame += fmt::format("{}{}\n", terminal::ClearToLineEnd, line);
     }
     m_output.draw(frame + ClearBelow);
     if (!isFrameAll())

@@ -10,6 +10,9 @@ bool hasColours(int descriptor);
 /// Whether text can be drawn over what is there: it is a terminal, and no dumb one.
 bool canRedraw(int descriptor);
 
+/// Clears the rest of the line, from the cursor on.
+inline constexpr const char* ClearToLineEnd = "\033[K";
+
 /// Of the terminal, in letters.
 struct Size
 {

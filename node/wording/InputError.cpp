@@ -67,6 +67,11 @@ std::string foundInsteadOf(const std::string& what, const std::error_code& reaso
     return "it unusable (" + reason.message() + ")";
 }
 
+std::string takesNoMore(const std::string& file)
+{
+    return quoted(file) + " cannot be written any more";
+}
+
 std::string didYouMean(const std::string& word, const std::vector<std::string>& candidates)
 {
     const auto begins = [&](const std::string& candidate)

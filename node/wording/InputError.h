@@ -22,6 +22,9 @@ std::string numberRange(double lowest, double highest);
 /// What stands where a file or a folder was to be read or written: "no such file".
 std::string foundInsteadOf(const std::string& what, const std::error_code& reason);
 
+/// What is said of a file that was opened for writing and takes no more: "\"FILE\" cannot be written any more".
+std::string takesNoMore(const std::string& file);
+
 /// " (did you mean ...?)" with the only candidate that begins with the word, or the one that is spelt most alike; ""
 /// when none is close. Case does not count.
 std::string didYouMean(const std::string& word, const std::vector<std::string>& candidates);

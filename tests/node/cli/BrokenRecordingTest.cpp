@@ -109,6 +109,15 @@ INSTANTIATE_TEST_SUITE_P(
             ":2: found cannot use at() with string" + Expected}),
     NameOf);
 
+INSTANTIATE_TEST_SUITE_P(
+    Beginnings, BrokenRecordingTest,
+    ::testing::Values(Row{"TheEnd", First + "\n" + First + "\n",
+                          ":3: found the end, expected the command that began the node of the line before"},
+                      Row{"AnotherBeginning", First + "\n" + First + "\n" + First + "\n" + Second + "\n",
+                          ":3: found another node's beginning, expected the command that began the node of the line "
+                          "before"}),
+    NameOf);
+
 INSTANTIATE_TEST_SUITE_P(Commands, BrokenRecordingTest,
                          ::testing::Values(Row{"OfTheCommandLine", with("startDpd", "help"),
                                                ":2: found \"help\"" + Foreign},
