@@ -20,12 +20,17 @@ struct Output
     }
 };
 
-/// One of the sixteen operations, with arguments that the module accepts, on channel 1.
+/// One of the sixteen operations, with arguments that the module accepts.
 template <typename Commands>
 struct Operation
 {
     std::string name;
-    int (*run)(Commands& to, Output& output);
+    int (*runOn)(Commands& to, RadioChannel channel, Output& output);
+
+    int run(Commands& to, Output& output) const
+    {
+        return runOn(to, 1, output);
+    }
 };
 
 /// The sixteen operations, in the order of the callback interface.
@@ -33,26 +38,35 @@ template <typename Commands>
 std::vector<Operation<Commands>> operations()
 {
     return {
-        {"getCtStatus", [](Commands& to, Output& output) { return to.getCtStatus(1, output.report); }},
-        {"getBcmModemStatus", [](Commands& to, Output& output) { return to.getBcmModemStatus(1, output.report); }},
-        {"getPpsCalibrationStatus",
-         [](Commands& to, Output& output) { return to.getPpsCalibrationStatus(1, output.report); }},
-        {"getPpsHopLengthTime", [](Commands& to, Output& output) { return to.getPpsHopLengthTime(1, output.report); }},
-        {"calibratePps", [](Commands& to, Output&) { return to.calibratePps(1, 3, 65535); }},
-        {"setPpsSource", [](Commands& to, Output&) { return to.setPpsSource(1, 2, -7); }},
-        {"setPpsOutputMode", [](Commands& to, Output&) { return to.setPpsOutputMode(1, 1); }},
-        {"startDpd", [](Commands& to, Output&) { return to.startDpd(1); }},
-        {"stopDpd", [](Commands& to, Output&) { return to.stopDpd(1); }},
+        {"getCtStatus",
+         [](Commands& to, RadioChannel channel, Output& output) { return to.getCtStatus(channel, output.report); }},
+        {"getBcmModemStatus", [](Commands& to, RadioChannel channel, Output& output)
+         { return to.getBcmModemStatus(channel, output.report); }},
+        {"getPpsCalibrationStatus", [](Commands& to, RadioChannel channel, Output& output)
+         { return to.getPpsCalibrationStatus(channel, output.report); }},
+        {"getPpsHopLengthTime", [](Commands& to, RadioChannel channel, Output& output)
+         { return to.getPpsHopLengthTime(channel, output.report); }},
+        {"calibratePps",
+         [](Commands& to, RadioChannel channel, Output&) { return to.calibratePps(channel, 3, 65535); }},
+        {"setPpsSource", [](Commands& to, RadioChannel channel, Output&) { return to.setPpsSource(channel, 2, -7); }},
+        {"setPpsOutputMode",
+         [](Commands& to, RadioChannel channel, Output&) { return to.setPpsOutputMode(channel, 1); }},
+        {"startDpd", [](Commands& to, RadioChannel channel, Output&) { return to.startDpd(channel); }},
+        {"stopDpd", [](Commands& to, RadioChannel channel, Output&) { return to.stopDpd(channel); }},
         {"setDpdCoefficients",
-         [](Commands& to, Output&) {
-             return to.setDpdCoefficients(1, {{1, 2, 3}});
+         [](Commands& to, RadioChannel channel, Output&) {
+             return to.setDpdCoefficients(channel, {{1, 2, 3}});
          }},
-        {"getDpdCoefficients",
-         [](Commands& to, Output& output) { return to.getDpdCoefficients(1, &output.coefficients); }},
-        {"setXpicSlaveMute", [](Commands& to, Output&) { return to.setXpicSlaveMute(1, 1); }},
-        {"xpicAcquireStart", [](Commands& to, Output&) { return to.xpicAcquireStart(1, 2, 3); }},
-        {"getXpicPreamble", [](Commands& to, Output& output) { return to.getXpicPreamble(1, &output.preamble); }},
-        {"setXpicPreamble", [](Commands& to, Output&) { return to.setXpicPreamble(1, 3); }},
-        {"getXpicStatus", [](Commands& to, Output& output) { return to.getXpicStatus(1, output.report); }},
+        {"getDpdCoefficients", [](Commands& to, RadioChannel channel, Output& output)
+         { return to.getDpdCoefficients(channel, &output.coefficients); }},
+        {"setXpicSlaveMute",
+         [](Commands& to, RadioChannel channel, Output&) { return to.setXpicSlaveMute(channel, 1); }},
+        {"xpicAcquireStart",
+         [](Commands& to, RadioChannel channel, Output&) { return to.xpicAcquireStart(channel, 2, 3); }},
+        {"getXpicPreamble", [](Commands& to, RadioChannel channel, Output& output)
+         { return to.getXpicPreamble(channel, &output.preamble); }},
+        {"setXpicPreamble", [](Commands& to, RadioChannel channel, Output&) { return to.setXpicPreamble(channel, 3); }},
+        {"getXpicStatus",
+         [](Commands& to, RadioChannel channel, Output& output) { return to.getXpicStatus(channel, output.report); }},
     };
 }
