@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What the scripts share. Sourced, from the project's root folder.
 
 # The packages of script/packages.txt that are for one of the given users and are not installed.
@@ -37,4 +38,11 @@ build() {
     *"no work to do"*) ;;
     *) ninja -C "build/$preset" "$@" >&2 ;;
     esac
+}
+
+# prove_tests PRESET: builds all and runs all tests. On standard output, ctest's summary on one line: the stage's figure.
+prove_tests() {
+    build "$1" all
+    ctest --preset "$1" --progress --output-log "build/$1/ctest.log" >&2
+    sed -n 's/^\(.*% tests passed, .*\)$/\1/p' "build/$1/ctest.log"
 }

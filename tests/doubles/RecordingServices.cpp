@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "doubles/CallLog.h"
+#include "doubles/LookAt.h"
 
 IRlbspKelApi::~IRlbspKelApi() = default;
 IRlbspKelApi::KelDebugCmdCallback::~KelDebugCmdCallback() = default;
@@ -60,6 +61,7 @@ EDPDResult RecordingDpdController::getCoeffs(DpdCoeffs* target)
 
 EDPDResult RecordingDpdController::setCoeffs(DpdCoeffs newCoefficients)
 {
+    lookAt(newCoefficients);
     calls().push_back(m_name + ".setCoeffs(" + hex(newCoefficients) + ")");
     return result;
 }
@@ -72,6 +74,7 @@ void RecordingBoardSupport::installDebugCmdCallback(KelDebugCmdCallback* callbac
 
 DspModemStatusResult RecordingModemStatus::getDspModemStatus(RadioChannel channel, DspModemStatus* status)
 {
+    lookAt(*status);
     calls().push_back("ITiGetDspModemStatus.getDspModemStatus(" + std::to_string(channel) + ", " + words(*status) +
                       ")");
     *status = filled;
@@ -80,6 +83,7 @@ DspModemStatusResult RecordingModemStatus::getDspModemStatus(RadioChannel channe
 
 std::string RecordingModemStatus::toString(DspModemStatus status)
 {
+    lookAt(status);
     calls().push_back("ITiGetDspModemStatus.toString(" + words(status) + ")");
     return text;
 }
@@ -87,6 +91,7 @@ std::string RecordingModemStatus::toString(DspModemStatus status)
 RadioChannelInfoResult RecordingNearEnd::getRadioChannelInfo(const RadioChannelInfoRequest& request,
                                                              RadioChannelInfo* target)
 {
+    lookAt(request);
     calls().push_back("ITiManageRadioChannelNearEnd.getRadioChannelInfo(" + std::to_string(request.radioChannel) + ")");
     static_assert(sizeof request == sizeof requestBytes);
     std::memcpy(requestBytes.data(), &request, requestBytes.size());

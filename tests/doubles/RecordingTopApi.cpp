@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "doubles/CallLog.h"
+#include "doubles/LookAt.h"
 
 namespace doubles
 {
@@ -30,8 +31,9 @@ public:
     }
 
     template <typename Number>
-    RecordText& member(const char* name, Number number)
+    RecordText& member(const char* name, const Number& number)
     {
+        doubles::lookAt(number);
         if constexpr (std::is_enum_v<Number>)
         {
             return add(name, std::to_string(static_cast<std::underlying_type_t<Number>>(number)));
@@ -45,6 +47,8 @@ public:
     template <typename Value>
     RecordText& optional(const char* name, const kel_top_api::Optional<Value>& value)
     {
+        doubles::lookAt(value.present);
+        doubles::lookAt(value.value); // what is left out is sent as well
         if (!value.present)
         {
             return *this;

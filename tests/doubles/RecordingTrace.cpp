@@ -5,6 +5,8 @@
 #include <streambuf>
 #include <tuple>
 
+#include "doubles/LookAt.h"
+
 namespace
 {
 
@@ -181,6 +183,7 @@ void VemTrace::beginLogMsg(VemTraceLevel level, const VemTraceHeader& header)
 
 void VemTrace::logMsgData(const char* data, std::size_t length)
 {
+    doubles::lookAt(data, length);
     trace().messages.back().data.emplace_back(data, length);
     trace().messages.back().text.append(data, length);
 }
