@@ -13,6 +13,7 @@
 #include "kel_top_api/CriSetSourceDspPps.h"
 #include "kel_top_api/ModulationAndCode.h"
 #include "kel_top_api/TiManageXpic.h"
+#include "platform/Fresh.h"
 #include "radio/IDpdControllerSplit.h"
 #include "radio/ITiGetDspModemStatus.h"
 #include "radio/ITiManageRadioChannelNearEnd.h"
@@ -26,36 +27,36 @@ namespace
 
 TEST(RecordDefaultsTest, AnXpicCommandAsksForNothing)
 {
-    const TiManageXpic::Command command;
-    EXPECT_FALSE(command.RadioChannelID.present);
-    EXPECT_FALSE(command.member2.present);
-    EXPECT_FALSE(command.member3.present);
-    EXPECT_FALSE(command.member4.present);
-    EXPECT_FALSE(command.member5.present);
-    EXPECT_FALSE(command.member6.present);
-    EXPECT_FALSE(command.member7.present);
-    EXPECT_FALSE(command.SlaveMute.present);
-    EXPECT_FALSE(command.AcquireStart.present);
-    EXPECT_FALSE(command.AcquireMode.present);
-    EXPECT_FALSE(command.AcquireOption.present);
-    EXPECT_FALSE(command.GetPreamble.present);
-    EXPECT_FALSE(command.Preamble.present);
-    EXPECT_FALSE(command.GetStatus.present);
+    const Fresh<TiManageXpic::Command> command;
+    EXPECT_FALSE(command->RadioChannelID.present);
+    EXPECT_FALSE(command->member2.present);
+    EXPECT_FALSE(command->member3.present);
+    EXPECT_FALSE(command->member4.present);
+    EXPECT_FALSE(command->member5.present);
+    EXPECT_FALSE(command->member6.present);
+    EXPECT_FALSE(command->member7.present);
+    EXPECT_FALSE(command->SlaveMute.present);
+    EXPECT_FALSE(command->AcquireStart.present);
+    EXPECT_FALSE(command->AcquireMode.present);
+    EXPECT_FALSE(command->AcquireOption.present);
+    EXPECT_FALSE(command->GetPreamble.present);
+    EXPECT_FALSE(command->Preamble.present);
+    EXPECT_FALSE(command->GetStatus.present);
 }
 
 TEST(RecordDefaultsTest, AbsentValuesAreZero)
 {
-    const TiManageXpic::Command command;
-    EXPECT_EQ(0U, command.RadioChannelID.value);
-    EXPECT_EQ(0U, command.member4.value);
-    EXPECT_EQ("", command.member5.value);
-    EXPECT_FALSE(command.SlaveMute.value);
-    EXPECT_FALSE(command.AcquireStart.value);
-    EXPECT_EQ(TiManageXpic::AcquireModeType::Mode0, command.AcquireMode.value);
-    EXPECT_EQ(TiManageXpic::AcquireOptionType::Option0, command.AcquireOption.value);
-    EXPECT_FALSE(command.GetPreamble.value);
-    EXPECT_EQ(TiManageXpic::PreambleType::Preamble0, command.Preamble.value);
-    EXPECT_FALSE(command.GetStatus.value);
+    const Fresh<TiManageXpic::Command> command;
+    EXPECT_EQ(0U, command->RadioChannelID.value);
+    EXPECT_EQ(0U, command->member4.value);
+    EXPECT_EQ("", command->member5.value);
+    EXPECT_FALSE(command->SlaveMute.value);
+    EXPECT_FALSE(command->AcquireStart.value);
+    EXPECT_EQ(TiManageXpic::AcquireModeType::Mode0, command->AcquireMode.value);
+    EXPECT_EQ(TiManageXpic::AcquireOptionType::Option0, command->AcquireOption.value);
+    EXPECT_FALSE(command->GetPreamble.value);
+    EXPECT_EQ(TiManageXpic::PreambleType::Preamble0, command->Preamble.value);
+    EXPECT_FALSE(command->GetStatus.value);
 }
 
 TEST(RecordDefaultsTest, AssigningAValueMakesItPresent)
@@ -73,133 +74,143 @@ TEST(RecordDefaultsTest, AssigningAValueMakesItPresent)
 
 TEST(RecordDefaultsTest, PpsCommandsAreZero)
 {
-    const CriCalibrateDspPps::Command calibrate;
-    EXPECT_EQ(0U, calibrate.radioChannel);
-    EXPECT_EQ(CriCalibrateDspPps::CalibrationMode::Mode0, calibrate.calibrationMode);
-    EXPECT_EQ(0U, calibrate.calibrationValue);
+    const Fresh<CriCalibrateDspPps::Command> calibrate;
+    EXPECT_EQ(0U, calibrate->radioChannel);
+    EXPECT_EQ(CriCalibrateDspPps::CalibrationMode::Mode0, calibrate->calibrationMode);
+    EXPECT_EQ(0U, calibrate->calibrationValue);
 
-    const CriSetOutputModeDspPps::Command setOutputMode;
-    EXPECT_EQ(0U, setOutputMode.radioChannel);
-    EXPECT_EQ(CriSetOutputModeDspPps::OutputMode::Mode0, setOutputMode.outputMode);
+    const Fresh<CriSetOutputModeDspPps::Command> setOutputMode;
+    EXPECT_EQ(0U, setOutputMode->radioChannel);
+    EXPECT_EQ(CriSetOutputModeDspPps::OutputMode::Mode0, setOutputMode->outputMode);
 
-    const CriSetSourceDspPps::Command setSource;
-    EXPECT_EQ(0U, setSource.radioChannel);
-    EXPECT_EQ(CriSetSourceDspPps::Source::Source0, setSource.source);
-    EXPECT_EQ(0, setSource.sourceParameter);
+    const Fresh<CriSetSourceDspPps::Command> setSource;
+    EXPECT_EQ(0U, setSource->radioChannel);
+    EXPECT_EQ(CriSetSourceDspPps::Source::Source0, setSource->source);
+    EXPECT_EQ(0, setSource->sourceParameter);
 
-    EXPECT_EQ(0U, CriGetCalibrationStatusDspPps::Command().radioChannel);
-    EXPECT_EQ(0U, CriGetHopLengthTimeDspPps::Command().radioChannel);
+    EXPECT_EQ(0U, Fresh<CriGetCalibrationStatusDspPps::Command>()->radioChannel);
+    EXPECT_EQ(0U, Fresh<CriGetHopLengthTimeDspPps::Command>()->radioChannel);
 }
 
 TEST(RecordDefaultsTest, TheStatusCommandLeavesItsFlagFalse)
 {
-    const CriGetRadioChannelStatus::Command command;
-    EXPECT_EQ(0U, command.radioChannel);
-    EXPECT_FALSE(command.flag2);
+    const Fresh<CriGetRadioChannelStatus::Command> command;
+    EXPECT_EQ(0U, command->radioChannel);
+    EXPECT_FALSE(command->flag2);
 }
 
 TEST(RecordDefaultsTest, TheCapabilityCommandHoldsTheApisDefaults)
 {
-    const CriGetRadioChannelCapability::Command command{2};
-    EXPECT_EQ(2U, command.radioChannel);
-    EXPECT_EQ(0U, command.number2);
-    EXPECT_EQ(143U, command.modulationAndCode3);
-    EXPECT_EQ(143U, command.modulationAndCode4);
-    EXPECT_EQ(1000U, command.number5);
-    EXPECT_EQ(0U, command.number6);
-    EXPECT_EQ(0U, command.number7);
+    const Fresh<CriGetRadioChannelCapability::Command> command;
+    EXPECT_EQ(0U, command->radioChannel);
+    EXPECT_EQ(0U, command->number2);
+    EXPECT_EQ(143U, command->modulationAndCode3);
+    EXPECT_EQ(143U, command->modulationAndCode4);
+    EXPECT_EQ(1000U, command->number5);
+    EXPECT_EQ(0U, command->number6);
+    EXPECT_EQ(0U, command->number7);
 }
 
 TEST(RecordDefaultsTest, TheNearEndRequestHoldsTheInterfacesDefaults)
 {
-    const RadioChannelInfoRequest request{2};
-    EXPECT_EQ(2U, request.radioChannel);
-    EXPECT_EQ(1U, request.byte4);
-    EXPECT_THAT(request.bytes5, Each(0));
-    EXPECT_EQ(143U, request.modulationAndCode20);
-    EXPECT_EQ(0U, request.word24);
-    EXPECT_EQ(143U, request.modulationAndCode28);
-    EXPECT_EQ(0U, request.word32);
-    EXPECT_EQ(1000U, request.word36);
-    EXPECT_THAT(request.bytes40, Each(0));
-    EXPECT_EQ(1U, request.byte60);
-    EXPECT_EQ(0U, request.byte61);
-    EXPECT_THAT(request.ignored62, Each(0));
-    EXPECT_EQ(0U, request.byte68);
-    EXPECT_THAT(request.ignored69, Each(0));
-    EXPECT_EQ(0U, request.byte75);
-    EXPECT_THAT(request.bytes76, Each(0));
+    const Fresh<RadioChannelInfoRequest> request;
+    EXPECT_EQ(0U, request->radioChannel);
+    EXPECT_EQ(1U, request->byte4);
+    EXPECT_THAT(request->bytes5, Each(0));
+    EXPECT_EQ(143U, request->modulationAndCode20);
+    EXPECT_EQ(0U, request->word24);
+    EXPECT_EQ(143U, request->modulationAndCode28);
+    EXPECT_EQ(0U, request->word32);
+    EXPECT_EQ(1000U, request->word36);
+    EXPECT_THAT(request->bytes40, Each(0));
+    EXPECT_EQ(1U, request->byte60);
+    EXPECT_EQ(0U, request->byte61);
+    EXPECT_THAT(request->ignored62, Each(0));
+    EXPECT_EQ(0U, request->byte68);
+    EXPECT_THAT(request->ignored69, Each(0));
+    EXPECT_EQ(0U, request->byte75);
+    EXPECT_THAT(request->bytes76, Each(0));
 }
 
 TEST(RecordDefaultsTest, TheNearEndInformationIsEmpty)
 {
-    const RadioChannelInfo info;
-    EXPECT_EQ(0, info.radioChannelId);
-    EXPECT_EQ(0U, info.flag2);
-    EXPECT_EQ(0, info.radioFrameId);
-    EXPECT_EQ("", info.minModulationAndCode);
-    EXPECT_EQ("", info.maxModulationAndCode);
-    EXPECT_EQ("", info.text6);
-    EXPECT_EQ(0U, info.number7);
-    EXPECT_EQ(0U, info.number8);
-    EXPECT_EQ(0U, info.number9);
-    EXPECT_EQ(0U, info.number10);
-    EXPECT_EQ(0, RadioChannelInfoResult().resultCode);
-    EXPECT_EQ("", RadioChannelInfoResult().errorText);
+    const Fresh<RadioChannelInfo> info;
+    EXPECT_EQ(0, info->radioChannelId);
+    EXPECT_EQ(0U, info->flag2);
+    EXPECT_EQ(0, info->radioFrameId);
+    EXPECT_EQ("", info->minModulationAndCode);
+    EXPECT_EQ("", info->maxModulationAndCode);
+    EXPECT_EQ("", info->text6);
+    EXPECT_EQ(0U, info->number7);
+    EXPECT_EQ(0U, info->number8);
+    EXPECT_EQ(0U, info->number9);
+    EXPECT_EQ(0U, info->number10);
+    EXPECT_EQ(0, Fresh<RadioChannelInfoResult>()->resultCode);
+    EXPECT_EQ("", Fresh<RadioChannelInfoResult>()->errorText);
 }
 
 TEST(RecordDefaultsTest, TheOpaqueRecordsAreZero)
 {
-    EXPECT_EQ(0U, DspModemStatus().request);
-    EXPECT_THAT(DspModemStatus().content, Each(0U));
-    EXPECT_EQ(0, DspModemStatusResult().resultCode);
-    EXPECT_EQ("", DspModemStatusResult().errorText);
-    EXPECT_THAT(DpdCoeffs().bytes, Each(0));
+    EXPECT_EQ(0U, Fresh<DspModemStatus>()->request);
+    EXPECT_THAT(Fresh<DspModemStatus>()->content, Each(0U));
+    EXPECT_EQ(0, Fresh<DspModemStatusResult>()->resultCode);
+    EXPECT_EQ("", Fresh<DspModemStatusResult>()->errorText);
+    EXPECT_THAT(Fresh<DpdCoeffs>()->bytes, Each(0));
 }
 
 TEST(RecordDefaultsTest, AnEmptyTraceHeaderNamesNoPlace)
 {
-    const VemTraceHeader header;
-    EXPECT_EQ(nullptr, header.file);
-    EXPECT_EQ(0, header.line);
-    EXPECT_EQ(nullptr, header.function);
+    const Fresh<VemTraceHeader> header;
+    EXPECT_EQ(nullptr, header->file);
+    EXPECT_EQ(0, header->line);
+    EXPECT_EQ(nullptr, header->function);
 }
 
 TEST(RecordDefaultsTest, ANewResponseIsASuccessWithoutText)
 {
-    const StandardResponse response;
-    EXPECT_EQ(0U, response.opaqueWord);
-    EXPECT_EQ(0, response.resultCode);
-    EXPECT_EQ("", response.resultText);
-    EXPECT_EQ("", response.additionalText);
+    const Fresh<StandardResponse> response;
+    EXPECT_EQ(0U, response->opaqueWord);
+    EXPECT_EQ(0, response->resultCode);
+    EXPECT_EQ("", response->resultText);
+    EXPECT_EQ("", response->additionalText);
 }
 
 TEST(RecordDefaultsTest, WhatTheXpicResponseDoesNotPrintIsZeroToo)
 {
-    const TiManageXpic::Response response;
-    EXPECT_EQ(TiManageXpic::PreambleType::Preamble0, response.XpicPreamble);
-    EXPECT_EQ(0, response.Xpd);
-    EXPECT_EQ(0, response.SlaveCarrierOffset);
-    EXPECT_FALSE(response.SlaveSweepOngoing);
-    EXPECT_EQ(0U, response.CalibrationStatus);
+    const Fresh<TiManageXpic::Response> response;
+    EXPECT_EQ(TiManageXpic::PreambleType::Preamble0, response->XpicPreamble);
+    EXPECT_EQ(0, response->Xpd);
+    EXPECT_EQ(0, response->SlaveCarrierOffset);
+    EXPECT_FALSE(response->SlaveSweepOngoing);
+    EXPECT_EQ(0U, response->CalibrationStatus);
 }
 
 TEST(RecordDefaultsTest, WhatTheStatusResponsesDoNotPrintIsZeroToo)
 {
-    const CriGetRadioChannelStatus::Response status;
-    EXPECT_FALSE(status.XpicIsStarted);
-    EXPECT_EQ(0, status.ActualXpi);
-    EXPECT_EQ("", status.XpicState);
-    EXPECT_EQ(0U, CriGetCalibrationStatusDspPps::Response().calibrationStatus);
-    EXPECT_EQ(0U, CriGetCalibrationStatusDspPps::Response().calibrationFailureReason);
-    EXPECT_EQ(0U, CriGetHopLengthTimeDspPps::Response().hopLengthTime);
+    const Fresh<CriGetRadioChannelStatus::Response> status;
+    EXPECT_FALSE(status->XpicIsStarted);
+    EXPECT_EQ(0, status->ActualXpi);
+    EXPECT_EQ("", status->XpicState);
+    EXPECT_EQ(0U, Fresh<CriGetCalibrationStatusDspPps::Response>()->calibrationStatus);
+    EXPECT_EQ(0U, Fresh<CriGetCalibrationStatusDspPps::Response>()->calibrationFailureReason);
+    EXPECT_EQ(0U, Fresh<CriGetHopLengthTimeDspPps::Response>()->hopLengthTime);
 }
 
 TEST(RecordDefaultsTest, AnEntryOfTheMaximumPowerListNamesNoModulation)
 {
     EXPECT_EQ(143U, UndefinedModulationAndCode);
-    EXPECT_EQ(143U, CriGetRadioChannelCapability::MaxRFOutputPower().modulationAndCode);
-    EXPECT_EQ(0, CriGetRadioChannelCapability::MaxRFOutputPower().power);
+    EXPECT_EQ(143U, Fresh<CriGetRadioChannelCapability::MaxRFOutputPower>()->modulationAndCode);
+    EXPECT_EQ(0, Fresh<CriGetRadioChannelCapability::MaxRFOutputPower>()->power);
+}
+
+TEST(RecordDefaultsTest, ANewRowOfTheModulationTableNamesNoModulation)
+{
+    const Fresh<ModulationAndCode> row;
+    EXPECT_EQ(143U, row->code);
+    EXPECT_EQ("", row->name);
+    EXPECT_EQ(0U, row->modulation);
+    EXPECT_EQ(0U, row->variant);
+    EXPECT_EQ(0U, row->strength);
 }
 
 } // namespace

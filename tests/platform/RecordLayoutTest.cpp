@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "framework/ModuleInterface.h"
 #include "kel_top_api/ModulationAndCode.h"
 #include "platform/Layout.h"
 #include "radio/IDpdControllerSplit.h"
@@ -23,6 +24,9 @@ static_assert(std::is_same_v<VemTraceLevel, std::int32_t>);
 static_assert(std::is_same_v<std::underlying_type_t<EDPDResult>, std::int32_t>);
 static_assert(static_cast<std::int32_t>(EDPDResult::Success) == 0);
 static_assert(static_cast<std::int32_t>(EDPDResult::Failure) == 32768);
+
+static_assert(std::is_same_v<std::underlying_type_t<ECallbackPriority>, std::int32_t>);
+static_assert(static_cast<std::int32_t>(ECallbackPriority::Default) == 0);
 
 // What travels by value, or is copied byte by byte.
 static_assert(std::is_trivially_copyable_v<DpdCoeffs>);
@@ -128,6 +132,19 @@ TEST(RecordLayoutTest, ModulationAndCode)
         .member<std::uint32_t>("variant", &R::variant, 44, 32)
         .member<std::uint32_t>("strength", &R::strength, 48, 36)
         .size(56, 40);
+}
+
+TEST(RecordLayoutTest, ModuleRegistration)
+{
+    using R = ModuleInterface::Registration;
+    Layout<R>()
+        .member<unsigned int>("number", &R::number, 0, 0)
+        .member<std::string>("name", &R::name, 8, 4)
+        .member<unsigned int>("secondNumber", &R::secondNumber, 40, 28)
+        .member<unsigned int>("thirdNumber", &R::thirdNumber, 44, 32)
+        .member<const unsigned long*>("list", &R::list, 48, 36)
+        .member<unsigned int>("listLength", &R::listLength, 56, 40)
+        .size(64, 44);
 }
 
 } // namespace

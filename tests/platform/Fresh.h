@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <new>
+
+/// A record as its declaration alone makes it, in memory that held something else before: a member that is given no
+/// value shows it. A temporary would not do: it is cleared first where the record has no constructor of its own.
+template <typename Record>
+class Fresh
+{
+public:
+    Fresh()
+    {
+        m_memory.fill(std::byte{0xA5});
+        m_record = ::new (m_memory.data()) Record;
+    }
+
+    ~Fresh()
+    {
+        std::destroy_at(m_record);
+    }
+
+    Fresh(const Fresh&) = delete;
+    Fresh& operator=(const Fresh&) = delete;
+
+    const Record* operator->() const
+    {
+        return m_record;
+    }
+
+private:
+    alignas(Record) std::array<std::byte, sizeof(Record)> m_memory{};
+    Record* m_record = nullptr;
+};
