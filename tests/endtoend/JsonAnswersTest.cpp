@@ -112,7 +112,7 @@ TEST(JsonAnswersTest, EveryCommandAnswersWithADocument)
 TEST(JsonAnswersTest, AReportIsTextAndFields)
 {
     const json answer = answersOf("getCtStatus 2\n").at(0);
-    EXPECT_EQ(runCommand("getCtStatus 2").output, answer.at("report"));
+    EXPECT_EQ(runCommand("getCtStatus 2").output, answer.at("report").get<std::string>());
     EXPECT_EQ(2, answer.at("channel"));
     const json level = {{"label", "Actual Rf Input Power"}, {"value", -43.02}, {"unit", "dBm"}};
     const json power = {{"under", "Available Max Output Pwr"}, {"label", "4QAM"}, {"value", 24}, {"unit", "dBm"}};

@@ -116,7 +116,7 @@ TEST_F(RecordingTest, HasABeginningForEachNode)
     const std::string recorded = folder.read("recording");
     const auto second = nlohmann::ordered_json::parse(
         recorded.substr(beginning().size(), recorded.find('\n', beginning().size()) - beginning().size()));
-    EXPECT_EQ(scenario, second.at("scenario").at("file"));
+    EXPECT_EQ(scenario, second.at("scenario").at("file").get<std::string>());
     EXPECT_EQ("[hop]\ndistance_km = 12.5\n", second.at("scenario").at("text"));
     EXPECT_TRUE(recorded.ends_with("}\n" + toLine(toJson(output.answers.back()))));
 }

@@ -123,7 +123,7 @@ TEST(JsonTest, StatusIsTheExitStatusInWords)
         Answer answer;
         answer.status = row.status;
         const ordered_json document = toJson(answer);
-        EXPECT_EQ(row.words, document["status"]);
+        EXPECT_EQ(row.words, document["status"].get<std::string>());
         EXPECT_EQ(row.number, document["exit_status"]);
     }
 }
