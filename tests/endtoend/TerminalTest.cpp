@@ -250,4 +250,12 @@ TEST_F(StoppedProgramTest, TheLineIsThereAgainAfterAStopThatNobodyCanHold)
     expectTheLineAgain();
 }
 
+TEST(PromptWithoutDescriptorsTest, IsToldAndEndsTheProgram)
+{
+    // Four are the standard streams, and one that it takes to load the program.
+    Terminal terminal({"/bin/sh", "-c", R"(ulimit -n 4; exec "$0")", KEL_NODE}, std::vector<std::string>{"TERM=dumb"});
+    EXPECT_EQ("kel-node: signalfd: Too many open files\r\n", terminal.readToTheEnd());
+    EXPECT_EQ(1, terminal.exitStatus());
+}
+
 } // namespace
