@@ -5,7 +5,9 @@
 #include <iterator>
 #include <string>
 
+#include <fcntl.h>
 #include <pthread.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,11 +15,13 @@
 
 #include <gtest/gtest.h>
 
+#include "ForeignSignals.h"
 #include "node/commands/TemporaryFolder.h"
 #include "node/plot/ChosenPath.h"
 #include "node/plot/Gnuplot.h"
 #include "node/plot/Plot.h"
 #include "node/plot/SmallRun.h"
+#include "node/terminal/Descriptor.h"
 
 namespace fs = std::filesystem;
 using node::plot::PlotError;
@@ -102,19 +106,12 @@ TEST_F(GnuplotTest, SignalsThatWeHoldBackReachIt)
 
 TEST_F(GnuplotTest, SignalsThatWeHandleDoNotEndTheWait)
 {
-    // It interrupts us as soon as we wait for it.
-    fake("until grep -q 'State:.S' /proc/$PPID/status; do :; done; kill -USR1 $PPID; cat");
-    struct sigaction handled
-    {
-    };
-    struct sigaction before
-    {
-    };
-    handled.sa_handler = [](int) {};
-    sigaction(SIGUSR1, &handled, &before);
-    const std::string output = runGnuplot("drawn");
-    sigaction(SIGUSR1, &before, nullptr);
-    EXPECT_EQ("drawn", output);
+    const std::string gate = folder.pathOf("gate");
+    ASSERT_EQ(0, mkfifo(gate.c_str(), 0600));
+    const node::terminal::Descriptor key(open(gate.c_str(), O_RDWR | O_CLOEXEC));
+    fake("read -r word <" + gate + "; cat; echo $word");
+    const ForeignSignals signals([&] { EXPECT_EQ(5, write(key.get(), "over\n", 5)); });
+    EXPECT_EQ("drawn over\n", runGnuplot("drawn "));
 }
 
 TEST_F(GnuplotTest, NeitherMuchOutputNorManyErrorsMakeItWait)
