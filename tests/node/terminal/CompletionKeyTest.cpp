@@ -68,6 +68,14 @@ TEST(CompletionKeyTest, WhereNothingIsInsertedTheFirstTimeBeeps)
     session.type(key::Tab, "host> get\ngetLevel   getLevels  getPower\nhost> get|\n");
 }
 
+TEST(CompletionKeyTest, HalfALetterInCommonIsNotInserted)
+{
+    EditorSession session;
+    session.type("w\t");
+    session.expectBeeps(1);
+    session.expectScreen("host> w|\n");
+}
+
 TEST(CompletionKeyTest, AnotherLineIsAnotherFirstTime)
 {
     EditorSession session;

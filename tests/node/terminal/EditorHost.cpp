@@ -29,7 +29,8 @@ namespace
 using node::terminal::Candidates;
 using node::terminal::LineEditor;
 
-/// What may be typed: words that begin alike, one alone, a folder, a key, one in quotation marks.
+/// What may be typed: words that begin alike, one alone, a folder, a key, one in quotation marks;
+/// behind "w", two whose first other letters begin with the same byte.
 Candidates complete(const std::string& line)
 {
     static const std::vector<std::string> Words = {"getLevel",      "getLevels", "getPower",       "set",
@@ -39,6 +40,11 @@ Candidates complete(const std::string& line)
     Candidates candidates;
     candidates.begin = blank == std::string::npos ? 0 : blank + 1;
     const std::string word = line.substr(candidates.begin);
+    if (word == "w")
+    {
+        candidates.words = {"w\xC3\xA4hlen", "w\xC3\xB6rtlich"};
+        return candidates;
+    }
     for (const std::string& candidate : Words)
     {
         if (candidate.starts_with(word) || candidate.starts_with('"' + word))

@@ -4,11 +4,14 @@
 #include <thread>
 #include <vector>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "node/commands/TemporaryFolder.h"
+#include "node/terminal/Descriptor.h"
 #include "node/terminal/HistoryFile.h"
 
 namespace
@@ -176,6 +179,29 @@ TEST_F(HistoryFileTest, AFileWhereAFolderShouldBeIsLeftAlone)
     below.append("one");
     EXPECT_EQ(Lines{}, below.read());
     EXPECT_EQ("kept", folder.read("a"));
+}
+
+TEST_F(HistoryFileTest, AFileThatCannotBeKeptFromOthersIsLeftAlone)
+{
+    // The kernel's file of the thread's name: anybody may read it, and nobody may change that.
+    fs::create_symlink("/proc/self/comm", path);
+    const std::string before = folder.read("history");
+    file.append("one");
+    EXPECT_EQ(before, folder.read("history"));
+    EXPECT_EQ(Lines{}, file.read());
+}
+
+TEST_F(HistoryFileTest, AFileThatCannotBeCutKeepsTheDroppedLines)
+{
+    const node::terminal::Descriptor sealed(memfd_create("history", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    fs::create_symlink("/proc/self/fd/" + std::to_string(sealed.get()), path);
+    for (const char* line : {"1", "2", "3", "4"})
+    {
+        file.append(line);
+    }
+    ASSERT_EQ(0, fcntl(sealed.get(), F_ADD_SEALS, F_SEAL_SHRINK));
+    EXPECT_EQ((Lines{"2", "3", "4"}), file.read());
+    EXPECT_EQ("2\n3\n4\n4\n", folder.read("history"));
 }
 
 TEST_F(HistoryFileTest, NoPathKeepsNothing)

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ForeignSignals.h"
 #include "node/terminal/Descriptor.h"
 
 namespace
@@ -103,6 +104,12 @@ TEST_F(PlainLinesTest, CtrlCBetweenTwoLinesDropsWhatWasTypedAhead)
     endInput();
     expectRead(LineEditor::Ending::End, "");
     EXPECT_EQ("> \n> \n", shown.str());
+}
+
+TEST_F(PlainLinesTest, SignalThatIsNotItsOwnDoesNotEndTheLine)
+{
+    const ForeignSignals signals([this] { type("one\n"); });
+    expectRead(LineEditor::Ending::Line, "one");
 }
 
 } // namespace
