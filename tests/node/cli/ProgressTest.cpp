@@ -111,6 +111,24 @@ TEST(ProgressEndTest, WithoutAScreenCtrlCEndsTheCommandAllTheSame)
     EXPECT_THROW(progress.reached(0.6), Interrupted);
 }
 
+TEST(SessionProgressTest, OfALongRunIsDrawnOnItsScreenAndGoesWithTheRun)
+{
+    RecordingDesk desk;
+    KeptAnswers output;
+    std::ostringstream screen;
+    node::cli::Surroundings surroundings;
+    surroundings.progress = &screen;
+    Session session(desk, output, surroundings);
+    auto run = session.beginLongRun();
+    while (screen.str().empty())
+    {
+        run->reached(0.5);
+    }
+    EXPECT_EQ("\r 50 %\033[K", screen.str());
+    run.reset();
+    EXPECT_EQ("\r 50 %\033[K\r\033[K", screen.str());
+}
+
 TEST(InterruptedCommandTest, KeepsTheTimeThatHasGone)
 {
     // Held back until the command looks: outside of one it would end the program.

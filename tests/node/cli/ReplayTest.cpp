@@ -137,6 +137,17 @@ TEST_F(ReplayTest, OfANodeThatDidNotStart)
     EXPECT_EQ(allOf(4), replayed(file));
 }
 
+TEST_F(ReplayTest, OfOneWhoseFirstNodeDoesNotStartEndsAsTheStartDoes)
+{
+    folder.write("recording", R"({"recording":1,"scenario":{"file":"refused.toml",)"
+                              R"("text":"[broker]\nIRlbspKelApi = \"absent\"\n"},"trace_levels":{}})"
+                              "\n");
+    const auto answer = carryOut({"replay " + file});
+    EXPECT_EQ(Status::NotStarted, answer.status);
+    EXPECT_EQ("module KelDebugCmd: onModuleInit() answered 0x8000, expected 0", answer.error);
+    EXPECT_FALSE(desk.hasNode());
+}
+
 TEST_F(ReplayTest, OfFaults)
 {
     done({"addFault tiManageXpic code=7 text=\"no answer\" from_call=2", "record " + file, "getXpicStatus 1"});

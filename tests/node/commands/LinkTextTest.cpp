@@ -1,6 +1,7 @@
 #include <string>
 
 #include <fmt/format.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "node/commands/LinkText.h"
@@ -225,6 +226,14 @@ TEST(LinkTextTest, ShowsTheFadeWithTheTremor)
     const double fade_dB = link.conditions().fade_dB;
     ASSERT_NE(25.0, fade_dB);
     EXPECT_NE(std::string::npos, linkText(link).find(fmt::format("\nFade:            {:.2f} dB\n", fade_dB)));
+}
+
+TEST(LinkTextTest, NamesTheModeThatTheCancellerAcquiresIn)
+{
+    RadioLink link;
+    link.change(1, [](Channel& channel) { channel.xpic.mode = node::radio::XpicAcquireMode::NarrowSweep; });
+    link.change(2, [](Channel& channel) { channel.xpic.mode = node::radio::XpicAcquireMode::Direct; });
+    EXPECT_THAT(linkText(link), ::testing::HasSubstr("\nXPIC mode:       narrow sweep      direct\n"));
 }
 
 } // namespace

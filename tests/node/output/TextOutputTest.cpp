@@ -179,6 +179,17 @@ TEST_F(TextOutputTest, CtrlCOpensALineWhereItIsShown)
     }
 }
 
+TEST_F(TextOutputTest, CtrlCShownAmongErrorsAloneEndsItsLineThere)
+{
+    Look look;
+    look.errorScreen = true;
+    TextOutput text(output, errors, look);
+    text.interrupted();
+    text.closeLine();
+    EXPECT_EQ("\n", errors.str());
+    EXPECT_EQ("", output.str());
+}
+
 TEST_F(TextOutputTest, WhatIsPrintedIsSeenAtOnce)
 {
     CountingBuffer reports;

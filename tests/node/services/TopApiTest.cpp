@@ -1,3 +1,6 @@
+#include <stdexcept>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "kel_top_api/StandardResponse.h"
@@ -54,6 +57,18 @@ TEST_F(TopApiTest, AChannelThatTheLinkHasLeavesTheResponseAsItIs)
     EXPECT_EQ(5, response.resultCode);
     EXPECT_FALSE(node::services::checkChannel(link, 3, response));
     EXPECT_EQ(1, response.resultCode);
+}
+
+TEST_F(TopApiTest, ASecondBindingIsRefusedAndTheFirstStays)
+{
+    const TopApiBinding binding({link, faults});
+    const ServiceContext* const first = boundContext();
+    EXPECT_THAT(
+        [this] {
+            const TopApiBinding second({link, faults});
+        },
+        ::testing::ThrowsMessage<std::logic_error>("top-level API: found another node, expected one at a time"));
+    EXPECT_EQ(first, boundContext());
 }
 
 } // namespace
