@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "kel_top_api/CriGetRadioChannelCapability.h"
+#include "platform/Fresh.h"
 #include "platform/ResponseText.h"
 
 namespace
@@ -62,7 +63,7 @@ TEST(CapabilityTextTest, EveryPrintedMember)
 
 TEST(CapabilityTextTest, ANewResponseHasEmptyLists)
 {
-    EXPECT_EQ(NewCapabilityText, Capability().printResponse());
+    EXPECT_EQ(NewCapabilityText, Fresh<Capability>()->printResponse());
 }
 
 TEST(CapabilityTextTest, EachFlagIsPrintedInItsOwnPlace)

@@ -25,6 +25,11 @@ public:
     Fresh(const Fresh&) = delete;
     Fresh& operator=(const Fresh&) = delete;
 
+    Record* operator->()
+    {
+        return m_record;
+    }
+
     const Record* operator->() const
     {
         return m_record;

@@ -13,6 +13,7 @@
 #include "kel_top_api/CriGetRadioChannelStatus.h"
 #include "kel_top_api/StandardResponse.h"
 #include "kel_top_api/TiManageXpic.h"
+#include "platform/Fresh.h"
 #include "platform/ResponseText.h"
 
 using namespace kel_top_api;
@@ -92,7 +93,7 @@ TEST(ResponseTextTest, XpicResponse)
 
 TEST(ResponseTextTest, NewXpicResponseHasEmptyTextsAndZeros)
 {
-    EXPECT_EQ(NewXpicText, TiManageXpic::Response().printResponse());
+    EXPECT_EQ(NewXpicText, Fresh<TiManageXpic::Response>()->printResponse());
 }
 
 TEST(ResponseTextTest, EachXpicFlagIsPrintedInItsOwnPlace)

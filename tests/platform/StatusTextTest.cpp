@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "kel_top_api/CriGetRadioChannelStatus.h"
+#include "platform/Fresh.h"
 #include "platform/ResponseText.h"
 
 namespace
@@ -51,7 +52,7 @@ TEST(StatusTextTest, EveryPrintedMember)
 
 TEST(StatusTextTest, ANewResponseHasEmptyTextsAndEndsItsLine)
 {
-    EXPECT_EQ(NewStatusText, Status().printResponse());
+    EXPECT_EQ(NewStatusText, Fresh<Status>()->printResponse());
 }
 
 TEST(StatusTextTest, NumbersAreSigned)
