@@ -33,6 +33,12 @@ std::size_t distance(std::string_view from, std::string_view to)
     return row.back();
 }
 
+bool beginsWith(std::string_view word, std::string_view beginning)
+{
+    return word.size() >= beginning.size() && std::equal(beginning.begin(), beginning.end(), word.begin(),
+                                                         [](char a, char b) { return lower(a) == lower(b); });
+}
+
 } // namespace
 
 std::string quoted(const std::string& word)
@@ -74,8 +80,7 @@ std::string takesNoMore(const std::string& file)
 
 std::string didYouMean(const std::string& word, const std::vector<std::string>& candidates)
 {
-    const auto begins = [&](const std::string& candidate)
-    { return !word.empty() && distance(word, std::string_view(candidate).substr(0, word.size())) == 0; };
+    const auto begins = [&](const std::string& candidate) { return !word.empty() && beginsWith(candidate, word); };
     const auto beginning = std::find_if(candidates.begin(), candidates.end(), begins);
     if (beginning != candidates.end() && std::find_if(beginning + 1, candidates.end(), begins) == candidates.end())
     {
@@ -85,7 +90,9 @@ std::string didYouMean(const std::string& word, const std::vector<std::string>& 
     std::string suggestion;
     for (const std::string& candidate : candidates)
     {
-        const std::size_t away = distance(word, candidate);
+        // The lengths alone keep them apart by so many letters, and are known at once, however long the word is.
+        const std::size_t atLeast = std::max(word.size(), candidate.size()) - std::min(word.size(), candidate.size());
+        const std::size_t away = atLeast < closest ? distance(word, candidate) : atLeast;
         if (away < closest)
         {
             closest = away;
