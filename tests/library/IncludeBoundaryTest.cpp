@@ -30,6 +30,7 @@ std::ostream& operator<<(std::ostream& out, const Room& room)
 }
 
 const std::vector<std::string> NodeRoots = {".", "platform", "src/Device/KelDebugCmd"};
+const std::vector<std::string> TestRoots = {".", "platform", "src/Device/KelDebugCmd", "tests"};
 
 const std::vector<Room> Rooms = {
     {"platform", "platform", {}, {"platform"}, true},
@@ -60,6 +61,19 @@ const std::vector<Room> Rooms = {
      {"reference", "output", "commands", "scenario", "startup", "services", "radio", "module", "platform", "framework",
       "trace", "wording", "terminal", "report", "plot"},
      NodeRoots},
+    {"doubles", "tests/doubles", {"platform"}, TestRoots, true},
+    // Written a second time: it must not know the first.
+    {"expected", "fuzz/expected", {"platform", "doubles"}, TestRoots, true},
+    {"fuzz",
+     "fuzz",
+     {"expected", "doubles", "tests", "cli", "output", "commands", "scenario", "startup", "services", "radio", "module",
+      "platform", "trace", "wording"},
+     TestRoots},
+    {"tests",
+     "tests",
+     {"doubles", "fuzz", "cli", "reference", "output", "commands", "scenario", "startup", "services", "radio", "module",
+      "module_private", "platform", "framework", "trace", "wording", "terminal", "report", "plot"},
+     TestRoots},
 };
 
 const fs::path Top = KEL_SOURCE_DIR;
