@@ -252,8 +252,9 @@ TEST_F(StoppedProgramTest, TheLineIsThereAgainAfterAStopThatNobodyCanHold)
 
 TEST(PromptWithoutDescriptorsTest, IsToldAndEndsTheProgram)
 {
-    // Four are the standard streams, and one that it takes to load the program.
-    Terminal terminal({"/bin/sh", "-c", R"(ulimit -n 4; exec "$0")", KEL_NODE}, std::vector<std::string>{"TERM=dumb"});
+    // Four are the standard streams, and one that it takes to load the program, which we may have been started with.
+    Terminal terminal({"/bin/sh", "-c", R"(exec 3>&-; ulimit -n 4; exec "$0")", KEL_NODE},
+                      std::vector<std::string>{"TERM=dumb"});
     EXPECT_EQ("kel-node: signalfd: Too many open files\r\n", terminal.readToTheEnd());
     EXPECT_EQ(1, terminal.exitStatus());
 }
