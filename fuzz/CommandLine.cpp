@@ -63,7 +63,7 @@ private:
         try
         {
             const Words words = node::commands::splitLine(line);
-            return words.empty() || selects(words, true);
+            return words.empty() || selects(words);
         }
         catch (const node::wording::InputError&)
         {
@@ -72,25 +72,34 @@ private:
     }
 
     /// @throws InputError for a command that there is not
-    bool selects(const Words& words, bool mayHoldAnother)
+    bool selects(const Words& words)
+    {
+        const auto& arguments = node::commands::commandNamed(words.front()).arguments;
+        const bool holdsAnother = std::any_of(arguments.begin(), arguments.end(),
+                                              [](const node::commands::Argument& argument)
+                                              { return argument.extent == node::commands::Extent::Command; });
+        return selectsAlone(words, 1) && (!holdsAnother || selectsHeld(words));
+    }
+
+    /// A command but for one that it may hold.
+    /// @param times  how often it is carried out
+    /// @throws InputError likewise
+    bool selectsAlone(const Words& words, int times)
     {
         const Command& command = node::commands::commandNamed(words.front());
         for (const node::commands::Argument& argument : command.arguments)
         {
             const bool isTable = argument.form == node::commands::TableName::form();
-            const bool leavesTheProcess = (argument.kind == node::commands::WordKind::File && !isTable) ||
-                                          (argument.kind == node::commands::WordKind::Scenario &&
-                                           std::any_of(words.begin(), words.end(), isFile));
-            const bool holdsTooMuch =
-                argument.extent == node::commands::Extent::Command && mayHoldAnother && !selectsHeld(words);
-            if (leavesTheProcess || holdsTooMuch)
+            const bool readsScenario = argument.kind == node::commands::WordKind::Scenario;
+            if ((argument.kind == node::commands::WordKind::File && !isTable) ||
+                (readsScenario && std::any_of(words.begin(), words.end(), isFile)))
             {
                 return false;
             }
         }
         const bool takesTime =
             !command.arguments.empty() && command.arguments.front().form == node::commands::Duration::form();
-        return !takesTime || hasTimeFor(words, mayHoldAnother ? 1 : WatchedRounds);
+        return !takesTime || hasTimeFor(words, times);
     }
 
     /// Of the commands that a command may hold, wherever among its words they begin.
@@ -100,7 +109,7 @@ private:
         {
             try
             {
-                if (!selects({begin, words.end()}, false))
+                if (!selectsAlone({begin, words.end()}, WatchedRounds))
                 {
                     return false;
                 }
