@@ -2,6 +2,7 @@
 #include <chrono>
 #include <clocale>
 #include <csignal>
+#include <cstdio>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -24,6 +25,7 @@
 #include "node/terminal/LineEditor.h"
 #include "node/terminal/PlainLines.h"
 #include "node/terminal/Screen.h"
+#include "node/terminal/StateFolder.h"
 #include "node/wording/InputError.h"
 
 namespace
@@ -71,7 +73,7 @@ std::optional<Typist> makeTypist(const Options& options)
     }
     if (isatty(STDOUT_FILENO) == 0)
     {
-        const auto lines = std::make_shared<node::terminal::PlainLines>();
+        const auto lines = std::make_shared<node::terminal::PlainLines>(stderr);
         return Typist{[lines](const std::string& prompt) { return lines->read(prompt); }, nullptr};
     }
     const std::string folder = node::terminal::stateFolder("kel-node");

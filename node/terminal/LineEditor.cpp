@@ -3,14 +3,12 @@
 #include <cerrno>
 #include <cstdio>
 #include <exception>
-#include <filesystem>
 #include <mutex>
 #include <stdexcept>
 #include <utility>
 
 #include <histedit.h>
 
-#include "node/terminal/Environment.h"
 #include "node/terminal/HelperKeys.h"
 #include "node/terminal/History.h"
 #include "node/terminal/Keyboard.h"
@@ -293,17 +291,6 @@ LineEditor::Typed LineEditor::read(const std::string& prompt)
 void LineEditor::print(const std::string& text)
 {
     m_implementation->print(text);
-}
-
-std::string stateFolder(const std::string& program)
-{
-    const std::filesystem::path state = variable("XDG_STATE_HOME");
-    if (state.is_absolute())
-    {
-        return (state / program).string();
-    }
-    const std::filesystem::path home = variable("HOME");
-    return home.empty() ? "" : home / ".local/state" / program;
 }
 
 } // namespace node::terminal

@@ -29,6 +29,9 @@ struct Helper
 /// while it does, Ctrl-C ends the line that is typed and not the program. read() is called by the thread that made the
 /// editor, the only one that lets signals through; print() by any. The keys are those of Emacs, and what the user's
 /// ~/.editrc says.
+///
+/// Where the program is built without line editing (PlainLineEditor.cpp) the keys are the few of the terminal itself:
+/// the helper is not asked, no history is kept, and print() prints at once.
 class LineEditor
 {
 public:
@@ -67,8 +70,5 @@ private:
     class Implementation;
     std::unique_ptr<Implementation> m_implementation;
 };
-
-/// Where a program keeps what lasts: "$XDG_STATE_HOME/PROGRAM", or "~/.local/state/PROGRAM"; "" without a home.
-std::string stateFolder(const std::string& program);
 
 } // namespace node::terminal

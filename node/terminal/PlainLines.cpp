@@ -1,7 +1,6 @@
 #include "node/terminal/PlainLines.h"
 
 #include <array>
-#include <iostream>
 #include <utility>
 
 #include <poll.h>
@@ -12,6 +11,16 @@
 namespace node::terminal
 {
 
+PlainLines::PlainLines(std::FILE* screen) : m_screen(screen)
+{
+}
+
+void PlainLines::show(const std::string& text) const
+{
+    std::fwrite(text.data(), 1, text.size(), m_screen);
+    std::fflush(m_screen);
+}
+
 LineEditor::Typed PlainLines::read(const std::string& prompt)
 {
     using Ending = LineEditor::Ending;
@@ -19,13 +28,13 @@ LineEditor::Typed PlainLines::read(const std::string& prompt)
     const auto dropLine = [&]
     {
         m_bytes.clear();
-        std::cerr << std::endl;
+        show("\n");
     };
     if (m_interrupt.happened())
     {
         dropLine();
     }
-    std::cerr << prompt << std::flush;
+    show(prompt);
     for (;;)
     {
         if (const std::size_t end = m_bytes.find('\n'); end != std::string::npos)
@@ -46,7 +55,7 @@ LineEditor::Typed PlainLines::read(const std::string& prompt)
         }
         if (ready[1].revents != 0 && !readInput(m_bytes))
         {
-            std::cerr << std::endl; // the prompt stands there
+            show("\n"); // the prompt stands there
             const std::string line = std::exchange(m_bytes, {});
             return {line.empty() ? Ending::End : Ending::Line, line};
         }

@@ -1,8 +1,8 @@
 #include "node/terminal/PlainLines.h"
 
 #include <csignal>
-#include <iostream>
-#include <sstream>
+#include <cstdio>
+#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -20,28 +20,29 @@ using node::terminal::PlainLines;
 class PlainLinesTest : public ::testing::Test
 {
 protected:
-    PlainLinesTest() : m_errors(std::cerr.rdbuf(shown.rdbuf()))
-    {
-    }
-
-    ~PlainLinesTest() override
-    {
-        std::cerr.rdbuf(m_errors);
-    }
-
     void expectRead(LineEditor::Ending ending, const std::string& line)
     {
-        const LineEditor::Typed typed = lines.read("> ");
+        const LineEditor::Typed typed = m_lines.read("> ");
         EXPECT_EQ(ending, typed.ending);
         EXPECT_EQ(line, typed.line);
     }
 
+    std::string shown() const
+    {
+        std::rewind(m_screen.get());
+        std::string text;
+        for (int byte = 0; (byte = std::fgetc(m_screen.get())) != EOF;)
+        {
+            text += static_cast<char>(byte);
+        }
+        return text;
+    }
+
     TypedInput input;
-    std::ostringstream shown; ///< on standard error
-    PlainLines lines;
 
 private:
-    std::streambuf* m_errors;
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> m_screen{std::tmpfile(), std::fclose};
+    PlainLines m_lines{m_screen.get()};
 };
 
 TEST_F(PlainLinesTest, EachLineIsReadBehindAPrompt)
@@ -51,14 +52,14 @@ TEST_F(PlainLinesTest, EachLineIsReadBehindAPrompt)
     expectRead(LineEditor::Ending::Line, "");
     input.type(" three\n");
     expectRead(LineEditor::Ending::Line, "two three");
-    EXPECT_EQ("> > > ", shown.str());
+    EXPECT_EQ("> > > ", shown());
 }
 
 TEST_F(PlainLinesTest, TheEndStandsOnALineOfItsOwn)
 {
     input.end();
     expectRead(LineEditor::Ending::End, "");
-    EXPECT_EQ("> \n", shown.str());
+    EXPECT_EQ("> \n", shown());
 }
 
 TEST_F(PlainLinesTest, ALineWithoutALineEndIsALine)
@@ -67,7 +68,7 @@ TEST_F(PlainLinesTest, ALineWithoutALineEndIsALine)
     input.end();
     expectRead(LineEditor::Ending::Line, "one");
     expectRead(LineEditor::Ending::End, "");
-    EXPECT_EQ("> \n> \n", shown.str());
+    EXPECT_EQ("> \n> \n", shown());
 }
 
 TEST_F(PlainLinesTest, CtrlCBetweenTwoLinesDropsWhatWasTypedAhead)
@@ -77,7 +78,7 @@ TEST_F(PlainLinesTest, CtrlCBetweenTwoLinesDropsWhatWasTypedAhead)
     std::raise(SIGINT);
     input.end();
     expectRead(LineEditor::Ending::End, "");
-    EXPECT_EQ("> \n> \n", shown.str());
+    EXPECT_EQ("> \n> \n", shown());
 }
 
 TEST_F(PlainLinesTest, SignalThatIsNotItsOwnDoesNotEndTheLine)

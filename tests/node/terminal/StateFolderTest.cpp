@@ -1,10 +1,10 @@
+#include "node/terminal/StateFolder.h"
+
 #include <cstdlib>
 #include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
-
-#include "node/terminal/LineEditor.h"
 
 namespace
 {
