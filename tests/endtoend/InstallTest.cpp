@@ -23,7 +23,8 @@ TEST(InstallTest, WhatIsInstalledWorksFromWhereItIs)
     // Only the installed folder has this one.
     std::filesystem::copy_file(folder.pathOf("share/kel-node/scenarios/clear-sky.toml"),
                                folder.pathOf("share/kel-node/scenarios/of-this-house.toml"));
-    const Terminal terminal({folder.pathOf("bin/kel-node"), "-s", "of-this-house", "getXpicPreamble", "1"});
+    const std::string program = KEL_EMULATOR " " + folder.pathOf("bin/kel-node");
+    const Terminal terminal({"/bin/sh", "-c", program + " -s of-this-house getXpicPreamble 1"});
     EXPECT_EQ("0\r\n", terminal.readToTheEnd());
 }
 

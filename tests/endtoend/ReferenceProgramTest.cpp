@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -14,7 +13,7 @@ namespace
 /// The program that the build makes the documents with, and contributors docs/commands.md.
 Ended printed(const std::string& arguments)
 {
-    return inShell(shellWord(std::filesystem::path(KEL_NODE).parent_path() / "kel-node-reference") + " " + arguments);
+    return inShell(KEL_EMULATOR " " + shellWord(KEL_NODE_REFERENCE) + " " + arguments);
 }
 
 TEST(ReferenceProgramTest, PrintsEachDocument)
