@@ -18,8 +18,9 @@ OTHER_PROGRAMS = ["module_internals_tests", "platform_tests"]
 #: Each source of it is a program of its own here: one is enough to kill, and the others need not be compiled.
 SPLIT_PROGRAM = "platform_tests"
 
-# Warnings stop nobody here: a mutant that only earns a warning counts. Variables without a value hold a pattern.
-COMPILER_FLAGS = "-O0 -w -ftrivial-auto-var-init=pattern"
+# Warnings stop nobody here: a mutant that only earns a warning counts. Variables without a value hold a pattern, and
+# the standard library stops at an index out of bounds, so that a mutant does not live by what happens to be in memory.
+COMPILER_FLAGS = "-O0 -w -ftrivial-auto-var-init=pattern -D_GLIBCXX_ASSERTIONS"
 
 
 @dataclass

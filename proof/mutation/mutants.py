@@ -330,7 +330,7 @@ class Finder:
         children = list(cursor.get_children())
         for member, value in zip(children, children[1:]):
             if member.kind == CursorKind.MEMBER_REF:
-                self.replace("initialiser", value, "{}")
+                self.replace("initialiser", value, "")
 
     def destructor(self, cursor: Cursor) -> None:
         self.not_virtual(cursor)
