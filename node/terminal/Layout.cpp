@@ -1,6 +1,7 @@
 #include "node/terminal/Layout.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cwchar>
 #include <cwctype>
 
@@ -53,8 +54,8 @@ public:
 private:
     void spell(wchar_t letter)
     {
-        const bool isControl = letter >= 0 && letter < 0x80;
-        const int signs = isControl ? 2 : letter > 0xFFFF ? 8 : 7;
+        const auto code = static_cast<std::uint32_t>(letter); // wchar_t has a sign on some machines only
+        const int signs = code < 0x80 ? 2 : code > 0xFFFF ? 8 : 7;
         for (int sign = 0; sign < signs; ++sign)
         {
             advance(1);
