@@ -74,6 +74,7 @@ protected:
         std::atomic<int> otherAnswers = 0;
         std::latch start(2 * ThreadsOfEachChannel + 1);
         std::vector<std::jthread> threads;
+        threads.reserve(2 * ThreadsOfEachChannel);
         for (int thread = 0; thread < 2 * ThreadsOfEachChannel; ++thread)
         {
             threads.emplace_back(
