@@ -203,7 +203,7 @@ public:
     {
         constexpr std::size_t CallsOfTheStart = 2; // the last ones; they cannot be planned any more
         const auto calls = node::services::platformCalls();
-        const PlatformCall& call = calls[below(calls.size() - CallsOfTheStart)];
+        const PlatformCall& call = calls[static_cast<std::size_t>(below(calls.size() - CallsOfTheStart))];
         Fault fault;
         fault.call = &call;
         fault.throws = below(4) == 0;
@@ -239,7 +239,7 @@ private:
         std::string text;
         for (std::uint64_t left = below(8); left > 0; --left)
         {
-            text += letters[below(letters.size())];
+            text += letters[static_cast<std::size_t>(below(letters.size()))];
         }
         return text;
     }

@@ -29,7 +29,8 @@ protected:
         std::string text;
         for (std::uint64_t left = random() % 8; left > 0; --left)
         {
-            text += random() % 3 == 0 ? std::string(1, static_cast<char>(random())) : pieces[random() % pieces.size()];
+            text += random() % 3 == 0 ? std::string(1, static_cast<char>(random()))
+                                      : pieces[static_cast<std::size_t>(random() % pieces.size())];
         }
         return text;
     }

@@ -93,7 +93,7 @@ protected:
 
     std::size_t below(std::size_t end)
     {
-        return random() % end;
+        return static_cast<std::size_t>(random() % end);
     }
 
     std::mt19937_64 random{GetParam()};

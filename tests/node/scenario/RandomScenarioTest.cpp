@@ -47,9 +47,9 @@ const std::vector<std::string>& tables()
     return all;
 }
 
-std::uint64_t below(std::mt19937_64& random, std::uint64_t bound)
+std::size_t below(std::mt19937_64& random, std::size_t bound)
 {
-    return random() % bound;
+    return static_cast<std::size_t>(random() % bound);
 }
 
 template <typename Items>
@@ -107,7 +107,7 @@ TEST_P(RandomScenarioTest, ADamagedFileIsReadOrRefusedWithItsPlace)
     for (int round = 0; round < Rounds; ++round)
     {
         std::string text = whole;
-        for (std::uint64_t damages = 1 + below(random, 3); damages > 0; --damages)
+        for (std::size_t damages = 1 + below(random, 3); damages > 0; --damages)
         {
             const std::size_t place = below(random, text.size());
             const std::size_t length = below(random, 4);

@@ -105,7 +105,7 @@ class RandomDidYouMeanTest : public ::testing::TestWithParam<std::uint64_t>
 protected:
     std::string randomWord()
     {
-        std::string word(random() % 7, ' ');
+        std::string word(static_cast<std::size_t>(random() % 7), ' ');
         for (char& letter : word)
         {
             letter = "abc"[random() % 3];

@@ -96,7 +96,7 @@ TEST_P(RandomQuotedTest, AnyBytesGiveOneVisibleQuotation)
     for (int round = 0; round < Rounds; ++round)
     {
         SCOPED_TRACE(fmt::format("seed {}, round {}", GetParam(), round));
-        std::string word(random() % 12, ' ');
+        std::string word(static_cast<std::size_t>(random() % 12), ' ');
         for (char& byte : word)
         {
             byte = static_cast<char>(random() & 0xFF);

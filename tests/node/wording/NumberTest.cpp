@@ -194,7 +194,7 @@ TEST_P(RandomNumberTest, BytesAreReadAsTheyArePrinted)
     for (int round = 0; round < Rounds; ++round)
     {
         SCOPED_TRACE(fmt::format("seed {}, round {}", GetParam(), round));
-        std::vector<std::uint8_t> bytes(random() % 24);
+        std::vector<std::uint8_t> bytes(static_cast<std::size_t>(random() % 24));
         for (std::uint8_t& byte : bytes)
         {
             byte = static_cast<std::uint8_t>(random() & 0xFF);
