@@ -6,7 +6,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from mutants import Mutant, find_mutants
+from mutant import Mutant
+from mutants import find_mutants
 from survivors import ListError, Result, figure, read_list, stale, too_few_killed, unlisted
 
 SOURCE = """

@@ -13,7 +13,7 @@ from __future__ import annotations
 from dataclasses import dataclass
 from pathlib import Path
 
-from mutants import Mutant
+from mutant import Mutant
 
 LEAST_KILLED = 97.0  #: percent
 

@@ -19,7 +19,7 @@ import subprocess
 from pathlib import Path
 
 from building import LIBRARY, MUTATED_FOLDERS, SPLIT_PROGRAM, Build, Program
-from mutants import Mutant
+from mutant import Mutant
 
 CPU_SECONDS = 10
 WALL_SECONDS = 120

@@ -11,11 +11,7 @@ template <typename Record>
 class Fresh
 {
 public:
-    Fresh()
-    {
-        m_memory.fill(std::byte{0xA5});
-        m_record = ::new (m_memory.data()) Record;
-    }
+    Fresh() = default;
 
     ~Fresh()
     {
@@ -36,6 +32,12 @@ public:
     }
 
 private:
+    void* filledMemory()
+    {
+        m_memory.fill(std::byte{0xA5});
+        return m_memory.data();
+    }
+
     alignas(Record) std::array<std::byte, sizeof(Record)> m_memory{};
-    Record* m_record = nullptr;
+    Record* m_record = ::new (filledMemory()) Record;
 };
