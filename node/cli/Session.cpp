@@ -273,14 +273,13 @@ void Session::leave()
 
 int Session::watch(const commands::Watch& watch)
 {
-    const std::unique_ptr<output::Output> view = m_output->beginWatch(watch);
+    std::unique_ptr<output::Output> view;
     output::Output* const before = m_output;
-    const auto direct = [this](output::Output* to)
     {
         const std::lock_guard lock(m_mutex);
-        m_output = to;
-    };
-    direct(view == nullptr ? before : view.get());
+        view = before->beginWatch(watch);
+        m_output = view == nullptr ? before : view.get();
+    }
     struct Back
     {
         ~Back()
@@ -290,7 +289,12 @@ int Session::watch(const commands::Watch& watch)
 
         std::function<void()> back;
     };
-    const Back back{[&] { direct(before); }};
+    const Back back{[&]
+                    {
+                        const std::lock_guard lock(m_mutex);
+                        view.reset(); // and tells of what waits for the next frame, before anything newer
+                        m_output = before;
+                    }};
 
     terminal::Interrupt interrupt;
     const std::chrono::milliseconds interval = watch.interval;
@@ -361,11 +365,11 @@ bool Session::canCreate(const std::string& file)
 {
     namespace fs = std::filesystem;
     std::error_code unknown;
-    const bool isThere = fs::exists(fs::symlink_status(file, unknown));
+    const bool isThere = fs::exists(file, unknown);
     const bool opens = std::ofstream(file, std::ios::app).is_open();
     if (opens && !isThere)
     {
-        fs::remove(file, unknown);
+        fs::remove(fs::canonical(file, unknown), unknown); // a link stays, and still leads nowhere
     }
     return opens;
 }

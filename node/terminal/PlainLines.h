@@ -19,8 +19,8 @@ public:
     /// @param screen  where the prompt is shown; borrowed
     explicit PlainLines(std::FILE* screen);
 
-    /// Shows the prompt and lets a line be typed. Afterwards the cursor is at the beginning of a row, where the line
-    /// was typed behind the prompt and not ahead of it.
+    /// Shows the prompt and lets a line be typed. Afterwards the cursor is at the beginning of a row, unless the line
+    /// had been typed before the prompt was shown.
     LineEditor::Typed read(const std::string& prompt);
 
 private:

@@ -92,7 +92,11 @@ std::string didYouMean(const std::string& word, const std::vector<std::string>& 
     {
         // The lengths alone keep them apart by so many letters, and are known at once, however long the word is.
         const std::size_t atLeast = std::max(word.size(), candidate.size()) - std::min(word.size(), candidate.size());
-        const std::size_t away = atLeast < closest ? distance(word, candidate) : atLeast;
+        if (atLeast >= closest)
+        {
+            continue;
+        }
+        const std::size_t away = distance(word, candidate);
         if (away < closest)
         {
             closest = away;

@@ -68,6 +68,7 @@ TEST_F(PicturesTest, ALinkStaysALink)
     fs::create_symlink(folder.pathOf("target.svg"), folder.pathOf("link.svg"));
     EXPECT_EQ(1, plot(folder.pathOf("link.svg")).status);
     EXPECT_TRUE(fs::is_symlink(folder.pathOf("link.svg")));
+    EXPECT_FALSE(folder.has("target.svg"));
 }
 
 } // namespace
