@@ -1,9 +1,9 @@
-# Debian's cross compiler for KEL_TRIPLET (package g++-TRIPLET), and its emulator KEL_EMULATOR (package
+# Debian's cross compiler for KEL_TRIPLET (package g++-TRIPLET), and its emulator KEL_QEMU (package
 # qemu-user-static) for programs that the build or the tests run.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_C_COMPILER ${KEL_TRIPLET}-gcc) # GoogleTest asks for one
 set(CMAKE_CXX_COMPILER ${KEL_TRIPLET}-g++)
-set(CMAKE_CROSSCOMPILING_EMULATOR "/usr/bin/${KEL_EMULATOR};-L;/usr/${KEL_TRIPLET}")
+set(CMAKE_CROSSCOMPILING_EMULATOR "/usr/bin/${KEL_QEMU};-L;/usr/${KEL_TRIPLET}")
 
 # Programs are this machine's, all else is the target's.
 set(CMAKE_FIND_ROOT_PATH /usr/${KEL_TRIPLET})

@@ -75,7 +75,7 @@ TEST_P(HardeningTest, IsLoadedAtAnyAddressWithoutWritingToItsCode)
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, HardeningTest,
-                         ::testing::Values(Built{"Library", KEL_LIBRARY}, Built{"Program", KEL_NODE}),
+                         ::testing::Values(Built{"Library", KEL_LIBRARY}, Built{"Program", KEL_NODE_FILE}),
                          ::testing::PrintToStringParamName());
 
 /// The library calls nothing of the C library that has a checked form with work left for it at run time.
@@ -85,7 +85,7 @@ TEST(FortifyTest, ProgramCallsTheCheckedFunctions)
     {
         GTEST_SKIP() << "the C library checks optimised code only";
     }
-    const ElfFile program(KEL_NODE);
+    const ElfFile program(KEL_NODE_FILE);
     const std::regex checked("__(?!stack).*_chk(@.*)?");
     EXPECT_TRUE(std::any_of(program.undefined().begin(), program.undefined().end(),
                             [&](const std::string& symbol) { return std::regex_match(symbol, checked); }));
