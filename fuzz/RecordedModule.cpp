@@ -1,11 +1,11 @@
 #include "fuzz/RecordedModule.h"
 
-#include <cstring>
 #include <sstream>
 
 #include "doubles/RecordingFramework.h"
 #include "fuzz/Records.h"
 #include "fuzz/Target.h"
+#include "fuzz/expected/CtStatus.h"
 #include "fuzz/expected/Texts.h"
 
 namespace fuzz
@@ -192,24 +192,11 @@ void RecordedModule::compare(const char* name, const std::function<int(Commands&
     expectSeen(wanted);
 }
 
-/// The request's bytes but those that nobody reads, and the record that the near end is given to fill.
+/// The request's bytes, and the record that the near end is given to fill.
 void RecordedModule::expectIdentityRequest(RadioChannel channel) const
 {
-    std::array<unsigned char, 88> wanted{};
-    const auto put = [&](std::size_t offset, std::uint32_t word)
-    { std::memcpy(&wanted.at(offset), &word, sizeof word); };
-    put(0, channel);
-    wanted[4] = 1;
-    put(20, 143);
-    put(28, 143);
-    put(36, 1000);
-    wanted[60] = 1;
-    for (std::size_t offset = 0; offset < wanted.size(); ++offset)
-    {
-        const bool read = (offset < 62 || offset >= 68) && (offset < 69 || offset >= 75);
-        expect(!read || wanted.at(offset) == m_nearEnd.requestBytes.at(offset), "bytes of the identity request",
-               std::to_string(offset));
-    }
+    expect(expected::identityRequest(channel) == m_nearEnd.requestBytes, "bytes of the identity request",
+           std::to_string(channel));
     const RadioChannelInfo& given = m_nearEnd.received;
     expect(given.radioChannelId == 0 && given.flag2 == 0 && given.radioFrameId == 0 &&
                given.minModulationAndCode.empty() && given.maxModulationAndCode.empty() && given.text6.empty() &&

@@ -1,10 +1,12 @@
 #include "fuzz/expected/CtStatus.h"
 
+#include <cstring>
 #include <iomanip>
 #include <locale>
 #include <sstream>
 
 #include "fuzz/expected/Texts.h"
+#include "fuzz/expected/Trace.h"
 
 namespace expected
 {
@@ -129,6 +131,20 @@ void getCtStatus(const Platform& platform, RadioChannel channel, Outcome& outcom
     capabilityLines(report, capability);
     identityLines(report, platform.nearEnd.info);
     outcome.report = report.str();
+}
+
+std::array<unsigned char, 88> identityRequest(RadioChannel channel)
+{
+    std::array<unsigned char, 88> bytes{};
+    const auto put = [&](std::size_t offset, std::uint32_t word)
+    { std::memcpy(&bytes.at(offset), &word, sizeof word); };
+    put(0, channel);
+    bytes[4] = 1;
+    put(20, 143);
+    put(28, 143);
+    put(36, 1000);
+    bytes[60] = 1;
+    return bytes;
 }
 
 } // namespace expected

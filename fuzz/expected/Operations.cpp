@@ -4,41 +4,13 @@
 #include <sstream>
 
 #include "fuzz/expected/Texts.h"
+#include "fuzz/expected/Trace.h"
 
 namespace expected
 {
 
 namespace
 {
-
-constexpr auto CommandsChannel = "KEL.KDC.KelDebugCmd";
-constexpr auto CommandsSource = "src/Device/KelDebugCmd/private/KelDebugCmd";
-
-/// A message in three pieces, which a channel that is silent is never given.
-void traceBuffer(Outcome& outcome, bool active, const std::string& function, const std::string& resultText)
-{
-    if (active)
-    {
-        const std::string reason = "failed: " + resultText;
-        const std::string place = std::string(CommandsSource) + " " + function;
-        outcome.messages.push_back(
-            {CommandsChannel, 1, place, function + "(): " + reason, "end", {function, "(): ", reason}});
-    }
-}
-
-/// The API's own text, without a line end, left open.
-void traceBare(Outcome& outcome, bool active, const std::string& function, const std::string& resultText)
-{
-    if (active)
-    {
-        const std::string place = std::string(CommandsSource) + " " + function;
-        outcome.messages.push_back({CommandsChannel, 1, place, resultText, "none", {}});
-    }
-    else
-    {
-        outcome.discarded += resultText;
-    }
-}
 
 template <typename... Values>
 std::string call(const Values&... values)
@@ -95,20 +67,6 @@ void judgeDpd(const Platform& platform, RadioChannel channel, const std::string&
 }
 
 } // namespace
-
-void traceLine(Outcome& outcome, const std::string& channel, bool active, const std::string& function,
-               const std::string& text)
-{
-    if (active)
-    {
-        const std::string place = function.empty() ? "(empty)" : std::string(CommandsSource) + " " + function;
-        outcome.messages.push_back({channel, 1, place, text + "\n", "flush", {}});
-    }
-    else
-    {
-        outcome.discarded += text + "\n";
-    }
-}
 
 void getBcmModemStatus(const Platform& platform, RadioChannel channel, Outcome& outcome)
 {

@@ -38,8 +38,4 @@ struct Outcome
 /// The whole report of a query that failed.
 inline constexpr auto NoData = "Data could not be retrieved!";
 
-/// A line for the trace; an empty function for one that names no place.
-void traceLine(Outcome& outcome, const std::string& channel, bool active, const std::string& function,
-               const std::string& text);
-
 } // namespace expected

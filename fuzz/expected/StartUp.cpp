@@ -1,11 +1,12 @@
 #include "fuzz/expected/StartUp.h"
 
+#include "fuzz/expected/Trace.h"
+
 namespace expected
 {
 
 StartUp onModuleInit(int numberOfRadioChannels, const Broker& broker, bool traced)
 {
-    constexpr auto Channel = "KEL.KDC.KelDebugCmd";
     constexpr auto LookUp = "InterfaceBroker.getInstance()";
     constexpr std::int32_t Failed = 0x8000;
 
@@ -13,7 +14,7 @@ StartUp onModuleInit(int numberOfRadioChannels, const Broker& broker, bool trace
     start.seen.calls.emplace_back(LookUp);
     if (!broker.boardSupport)
     {
-        traceLine(start.seen, Channel, traced, "onModuleInit",
+        traceLine(start.seen, CommandsChannel, traced, "onModuleInit",
                   "onModuleInit(): failed to get interface toIRlbspKelApi");
         start.result = Failed;
         return start;
@@ -28,7 +29,7 @@ StartUp onModuleInit(int numberOfRadioChannels, const Broker& broker, bool trace
         start.found.at(index) = broker.dpd.at(index);
         if (!start.found.at(index))
         {
-            traceLine(start.seen, Channel, traced, "onModuleInit",
+            traceLine(start.seen, CommandsChannel, traced, "onModuleInit",
                       "onModuleInit(): Error getting interface to IDpdControllerSplit_" + std::to_string(channel));
             start.result = Failed;
             return start;

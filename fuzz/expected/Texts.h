@@ -8,7 +8,7 @@
 #include "kel_top_api/TiManageXpic.h"
 
 /// The module's texts a second time, written from what readers expect of them and not from the module's sources. Plain
-/// where the module is quick: streams, printf, a line a line.
+/// where the module is quick: streams, printf, a statement for each line.
 namespace expected
 {
 
