@@ -116,6 +116,11 @@ class JudgementTest(FileCase):
         self.assertEqual(too_few_killed(self.results(["killed by a test"] * 30 + ["survived"])),
                          ["found 96.8 % killed, expected at least 97.0 %"])
 
+    def test_mutants_that_nobody_could_kill_prove_nothing(self) -> None:
+        for results in ([], self.results(["does not compile"] * 40)):
+            for least in (0.0, 97.0):
+                self.assertEqual(too_few_killed(results, least), ["found no mutant that compiles, expected some"])
+
     def test_what_does_not_compile_counts_for_nobody(self) -> None:
         results = self.results(["killed by a test", "does not compile", "same code"])
         self.assertEqual(figure(results), "1 of 1 mutants killed (100.0 %); besides, 1 compile to the same code and "

@@ -61,7 +61,7 @@ def read_list(path: Path) -> dict[Key, str]:
 
 def percentage(results: list[Result]) -> float:
     counted = [result for result in results if result.counts]
-    return 100.0 * sum(result.killed for result in counted) / len(counted) if counted else 100.0
+    return 100.0 * sum(result.killed for result in counted) / len(counted) if counted else 0.0
 
 
 def figure(results: list[Result]) -> str:
@@ -92,7 +92,9 @@ def stale(results: list[Result], listed: dict[Key, str], files: list[str]) -> li
     return found
 
 
-def too_few_killed(results: list[Result]) -> list[str]:
-    if percentage(results) >= LEAST_KILLED:
-        return []
-    return [f"found {percentage(results):.1f} % killed, expected at least {LEAST_KILLED} %"]
+def too_few_killed(results: list[Result], least: float = LEAST_KILLED) -> list[str]:
+    if not any(result.counts for result in results):
+        return ["found no mutant that compiles, expected some"]
+    if percentage(results) < least:
+        return [f"found {percentage(results):.1f} % killed, expected at least {least} %"]
+    return []

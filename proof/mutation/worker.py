@@ -56,8 +56,10 @@ class Worker:
         return executable
 
     def failing_unchanged(self) -> list[str]:
-        """Programs that fail without any mutant."""
-        shutil.copy(self.build.folder / LIBRARY, self.library)
+        """Programs that fail without any mutant, with a module that is made as those of mutants are."""
+        objects = self.build.library_objects
+        if not all([self.compiled(name) for name in objects]) or not self.links_library(objects, None):
+            raise RuntimeError("the module cannot be made without any mutant")
         return [program.name for program in self.build.programs if not self.lives(program, [])]
 
     # One mutant.
@@ -87,10 +89,13 @@ class Worker:
         else:
             programs = [program for program in self.in_order(mutant) if program.uses_library]
             in_front = None
-            if not self.linked(self.build.library_link, self.library, [], emitted):
+            if not self.links_library([], emitted):
                 return None
         for program in programs:
-            if not self.lives(program, [], in_front):
+            executable = self.executable(program, [], in_front)
+            if executable is None:
+                return None
+            if not self.passes(executable):
                 return self.killed(mutant, program)
         return None
 
@@ -157,22 +162,27 @@ class Worker:
         words[1:1] = [str(in_front)] if in_front else []
         return self.succeeds(words)
 
+    def links_library(self, changed: list[str], in_front: Path | None) -> bool:
+        return self.linked(self.build.library_link, self.library, changed, in_front)
+
     def succeeds(self, command: list[str]) -> bool:
         done = subprocess.run(command, cwd=self.build.folder, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                               stderr=subprocess.DEVNULL, check=False)
         return done.returncode == 0
 
-    def lives(self, program: Program, changed: list[str], in_front: Path | None = None) -> bool:
-        """Links the program where that is needed, and runs it."""
+    def lives(self, program: Program, changed: list[str]) -> bool:
+        executable = self.executable(program, changed, None)
+        return executable is not None and self.passes(executable)
+
+    def executable(self, program: Program, changed: list[str], in_front: Path | None) -> Path | None:
+        """The program to run, linked where that is needed; None where it cannot be linked."""
         rebuilt = [name for name in changed if name in program.objects]
-        executable = self.build.folder / "tests" / program.target
         if program.name == "library_tests":
-            executable = self.library_reader
-        elif rebuilt or in_front or program.target == SPLIT_PROGRAM:
-            executable = self.folder / "program"
-            if not self.linked(program.link, executable, rebuilt, in_front):
-                return False
-        return self.passes(executable)
+            return self.library_reader
+        if not rebuilt and in_front is None and program.target != SPLIT_PROGRAM:
+            return self.build.folder / "tests" / program.target
+        executable = self.folder / "program"
+        return executable if self.linked(program.link, executable, rebuilt, in_front) else None
 
     def passes(self, program: Path) -> bool:
         """False when a test fails, and when the program crashes, hangs or eats all memory."""
@@ -190,15 +200,20 @@ class Worker:
     def same_code(self, file: str) -> bool:
         """True when the optimised objects of the module are what they are without the mutant, byte for byte."""
         names = self.build.dependents(file, self.build.library_objects)
+        if not names:
+            return False
         mutated = (self.tree / file).read_bytes()
         (self.tree / file).write_bytes((self.build.root / file).read_bytes())
         for name in names:
             if name not in self.optimised:
                 self.optimised[name] = self.optimised_object(name)
+                if not self.optimised[name]:
+                    raise RuntimeError(f"{name} cannot be made without any mutant")
         (self.tree / file).write_bytes(mutated)
         return all(self.optimised_object(name) == self.optimised[name] for name in names)
 
     def optimised_object(self, name: str) -> bytes:
+        """Empty where it does not compile."""
         output = self.folder / "optimised.o"
         return output.read_bytes() if self.succeeds([*self.command(name, output), "-O2"]) else b""
 
@@ -249,9 +264,7 @@ class FullOutcome:
 
     def makes_library(self) -> bool:
         if not self.library_is_made:
-            link = self.worker.build.library_link
-            self.library_is_made = self.module_compiles() and self.worker.linked(link, self.worker.library,
-                                                                                 self.library_objects, None)
+            self.library_is_made = self.module_compiles() and self.worker.links_library(self.library_objects, None)
         return self.library_is_made
 
     def same_code(self) -> bool:

@@ -14,6 +14,7 @@ import random
 import re
 import subprocess
 import sys
+import threading
 from collections.abc import Iterator
 from dataclasses import dataclass
 from pathlib import Path
@@ -22,6 +23,7 @@ from prediction import CALLS, Answer, Fault, Prediction
 
 TOUR = 20_000  # commands; more than the program keeps of a session
 BATCH = 500  # commands that are sent at once: they fit into a pipe
+PATIENCE_S = 300  # with the answers to a batch, which take a fraction of a second
 GROWTH_KIB = 1024  # of the second half over the first half: less than 2.1 bytes a command in a million
 
 
@@ -112,7 +114,7 @@ def compare(expectation: Expectation, document: dict) -> None:
 
 
 class Node:
-    """The process, and what it uses."""
+    """The process, and what it uses. One that does not answer a batch in time is ended."""
 
     def __init__(self, program: str) -> None:
         self._process = subprocess.Popen(
@@ -128,7 +130,10 @@ class Node:
         assert stdin and stdout
         stdin.write("".join(line + "\n" for line in lines).encode())
         stdin.flush()
+        patience = threading.Timer(PATIENCE_S, self._process.kill)
+        patience.start()
         answers = [stdout.readline() for _ in lines]
+        patience.cancel()
         if not answers[-1]:
             raise Unexpected(f"the node has gone, after {self.answered} commands: status {self._process.wait()}")
         self.answered += len(answers)
@@ -174,7 +179,7 @@ def soak(program: str, commands: int) -> str:
         raise Unexpected(f"open files: found from {min(node.files)} to {max(node.files)}, expected as many always")
     node.end()
     return (
-        f"{node.answered} commands answered as predicted, twice the same; memory {first} KiB at most in the first half, "
+        f"{node.answered} commands, results and traces as predicted, reports twice the same; memory {first} KiB at most in the first half, "
         f"{second} KiB in the second; {node.files.pop()} files open"
     )
 

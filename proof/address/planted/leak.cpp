@@ -1,0 +1,7 @@
+// Told: LeakSanitizer: detected memory leaks
+#include <string>
+
+int main()
+{
+    return new std::string(100, 'x') == nullptr;
+}
