@@ -44,7 +44,8 @@ TEST(PipesTest, AHundredThousandLinesLoseNoneAndNeedNoMoreMemoryThanAThousand)
     EXPECT_EQ(repeated("2\n", Many / 2), many.output);
     EXPECT_EQ("", many.errors);
     EXPECT_EQ(0, many.status);
-#ifndef __SANITIZE_ADDRESS__                         // which keeps what was released
+    // The address sanitizer keeps what was released.
+#ifndef __SANITIZE_ADDRESS__
     constexpr long HistoryOfTenThousand_KiB = 8'192; // that a recording could still begin with
     EXPECT_LT(many.memory_KiB, few.memory_KiB + HistoryOfTenThousand_KiB);
 #endif

@@ -252,7 +252,7 @@ TEST_F(StoppedProgramTest, TheLineIsThereAgainAfterAStopThatNobodyCanHold)
 
 TEST(PromptWithoutDescriptorsTest, IsToldAndEndsTheProgram)
 {
-    // Four are the standard streams, and one that it takes to load the program, which we may have been started with.
+    // Three standard streams, and one to load the program with. The shell may have inherited more: it closes the first.
     Terminal terminal({"/bin/sh", "-c", R"(exec 3>&-; ulimit -n 4; exec "$0")", KEL_NODE},
                       std::vector<std::string>{"TERM=dumb"});
     EXPECT_EQ("kel-node: signalfd: Too many open files\r\n", terminal.readToTheEnd());

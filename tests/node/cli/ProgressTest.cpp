@@ -120,7 +120,8 @@ TEST(SessionProgressTest, OfALongRunIsDrawnOnItsScreenAndGoesWithTheRun)
     surroundings.progress = &screen;
     Session session(desk, output, surroundings);
     auto run = session.beginLongRun();
-    while (screen.str().empty())
+    constexpr int Enough = 100'000'000; // for half a second
+    for (int calls = 0; calls < Enough && screen.str().empty(); ++calls)
     {
         run->reached(0.5);
     }

@@ -97,7 +97,7 @@ protected:
         EXPECT_EQ(0, otherAnswers) << "rounds with an answer that differs from that of a node at rest";
     }
 
-    void expectEachCallHit() const
+    void expectEachCallHit()
     {
         std::uint64_t hits = 0;
         for (const auto& planned : m_node.faults().list())
@@ -153,7 +153,7 @@ private:
         return answers;
     }
 
-    mutable Node m_node;
+    Node m_node;
     Lines m_tracedAlone;
     std::uint64_t m_hitsAlone = 0;
 };
