@@ -90,6 +90,7 @@ std::string withDescriptors(rlim_t count)
     }
     catch (const std::system_error& error)
     {
+        setrlimit(RLIMIT_NOFILE, &before); // the sanitizers need some to look at the error's type
         said = error.code() == std::errc::too_many_files_open ? error.what() : "another reason";
     }
     setrlimit(RLIMIT_NOFILE, &before);
