@@ -1,5 +1,6 @@
 #include "fuzz/ModuleOperations.h"
 
+#include "fuzz/EveryOperation.h"
 #include "fuzz/Records.h"
 #include "fuzz/Target.h"
 #include "fuzz/expected/CtStatus.h"
@@ -19,24 +20,8 @@ ModuleOperations::ModuleOperations(Input& input, RecordedModule& module) : m_inp
 
 void ModuleOperations::operate()
 {
-    static constexpr std::array<void (ModuleOperations::*)(RadioChannel), 16> Operations = {
-        &ModuleOperations::getCtStatus,
-        &ModuleOperations::getBcmModemStatus,
-        &ModuleOperations::getPpsCalibrationStatus,
-        &ModuleOperations::getPpsHopLengthTime,
-        &ModuleOperations::calibratePps,
-        &ModuleOperations::setPpsSource,
-        &ModuleOperations::setPpsOutputMode,
-        &ModuleOperations::startDpd,
-        &ModuleOperations::stopDpd,
-        &ModuleOperations::setDpdCoefficients,
-        &ModuleOperations::getDpdCoefficients,
-        &ModuleOperations::setXpicSlaveMute,
-        &ModuleOperations::xpicAcquireStart,
-        &ModuleOperations::getXpicPreamble,
-        &ModuleOperations::setXpicPreamble,
-        &ModuleOperations::getXpicStatus};
-    const auto operation = Operations.at(m_input.below(Operations.size()));
+    constexpr auto& operations = EveryOperation<ModuleOperations>;
+    const auto operation = operations.at(m_input.below(operations.size()));
     (this->*operation)(1 + m_input.below(2));
 }
 

@@ -16,9 +16,6 @@ public:
     /// @throws Finding where it does otherwise than is expected
     void operate();
 
-private:
-    using Commands = RecordedModule::Commands;
-
     void getCtStatus(RadioChannel channel);
     void getBcmModemStatus(RadioChannel channel);
     void getPpsCalibrationStatus(RadioChannel channel);
@@ -35,6 +32,9 @@ private:
     void getXpicPreamble(RadioChannel channel);
     void setXpicPreamble(RadioChannel channel);
     void getXpicStatus(RadioChannel channel);
+
+private:
+    using Commands = RecordedModule::Commands;
 
     Input& m_input;
     RecordedModule& m_module;

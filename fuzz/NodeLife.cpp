@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "fuzz/EveryOperation.h"
 #include "fuzz/Input.h"
 #include "fuzz/KnownNode.h"
 #include "fuzz/NodeAround.h"
@@ -154,34 +155,18 @@ void Life::dropFaults()
 
 void Life::take()
 {
-    using Operation = void (NodeOperations::*)(RadioChannel);
-    static constexpr std::array<Operation, 16> Operations = {&NodeOperations::getCtStatus,
-                                                             &NodeOperations::getBcmModemStatus,
-                                                             &NodeOperations::getPpsCalibrationStatus,
-                                                             &NodeOperations::getPpsHopLengthTime,
-                                                             &NodeOperations::calibratePps,
-                                                             &NodeOperations::setPpsSource,
-                                                             &NodeOperations::setPpsOutputMode,
-                                                             &NodeOperations::startDpd,
-                                                             &NodeOperations::stopDpd,
-                                                             &NodeOperations::setDpdCoefficients,
-                                                             &NodeOperations::getDpdCoefficients,
-                                                             &NodeOperations::setXpicSlaveMute,
-                                                             &NodeOperations::xpicAcquireStart,
-                                                             &NodeOperations::getXpicPreamble,
-                                                             &NodeOperations::setXpicPreamble,
-                                                             &NodeOperations::getXpicStatus};
+    constexpr auto& operations = fuzz::EveryOperation<NodeOperations>;
     using Step = void (Life::*)();
     static constexpr std::array<Step, 5> Others = {&Life::letTimeGoOn, &Life::changeWeather, &Life::changeChannel,
                                                    &Life::planFault, &Life::dropFaults};
-    const std::uint32_t step = m_input.below(Operations.size() + Others.size());
-    if (step < Operations.size())
+    const std::uint32_t step = m_input.below(operations.size() + Others.size());
+    if (step < operations.size())
     {
-        (m_operations.*Operations.at(step))(1 + m_input.below(2));
+        (m_operations.*operations.at(step))(1 + m_input.below(2));
     }
     else
     {
-        (this->*Others.at(step - Operations.size()))();
+        (this->*Others.at(step - operations.size()))();
     }
 }
 

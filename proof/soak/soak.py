@@ -179,8 +179,8 @@ def soak(program: str, commands: int) -> str:
         raise Unexpected(f"open files: found from {min(node.files)} to {max(node.files)}, expected as many always")
     node.end()
     return (
-        f"{node.answered} commands, results and traces as predicted, reports twice the same; memory {first} KiB at most in the first half, "
-        f"{second} KiB in the second; {node.files.pop()} files open"
+        f"{node.answered} commands, results and traces as predicted, reports twice the same; "
+        f"memory {first} KiB at most in the first half, {second} KiB in the second; {node.files.pop()} files open"
     )
 
 
