@@ -7,6 +7,7 @@
 
 #include "kel_top_api/BaseResponse.h"
 #include "kel_top_api/ModulationAndCode.h"
+#include "kel_top_api/joined.h"
 #include "radio/RadioChannel.h"
 
 namespace kel_top_api
@@ -41,28 +42,30 @@ struct CriGetRadioChannelCapability
         std::string printResponse() override
         {
             // clang-format off
-            return "NumberOfChannels: " + std::to_string(NumberOfChannels) +
-                   ", MinTemp: " + std::to_string(MinTemp) +
-                   ", MaxTemp: " + std::to_string(MaxTemp) +
-                   ", AvailableMinRFOutputPower: " + std::to_string(AvailableMinRFOutputPower) +
-                   ", AvailableMaxRFOutputPower: " + maxPowerItems() +
-                   ", MinTXFrequency: " + std::to_string(MinTXFrequency) +
-                   ", MaxTXFrequency: " + std::to_string(MaxTXFrequency) +
-                   ", MinRXFrequency: " + std::to_string(MinRXFrequency) +
-                   ", MaxRXFrequency: " + std::to_string(MaxRXFrequency) +
-                   ", FrequencyStepSize: " + std::to_string(FrequencyStepSize) +
-                   ", MinTXFrequencyStep: " + std::to_string(MinTXFrequencyStep) +
-                   ", MaxTXFrequencyStep: " + std::to_string(MaxTXFrequencyStep) +
-                   ", MinRXFrequencyStep: " + std::to_string(MinRXFrequencyStep) +
-                   ", MaxRXFrequencyStep: " + std::to_string(MaxRXFrequencyStep) +
-                   ", TXBaseFrequency: " + std::to_string(TXBaseFrequency) +
-                   ", RXBaseFrequency: " + std::to_string(RXBaseFrequency) +
-                   ", FrequencyBand: " + std::to_string(FrequencyBand) +
-                   ", FrequencySubBand: " + std::to_string(FrequencySubBand) +
-                   ", DuplexType: " + DuplexType +
-                   ", AvailableRSECs: " + rsecItems() +
-                   "\n, TapsCapable: " + std::to_string(TapsCapable) +
-                   ", RfLoopAvailable: " + std::to_string(RfLoopAvailable);
+            return joined({
+                "NumberOfChannels: ", std::to_string(NumberOfChannels),
+                ", MinTemp: ", std::to_string(MinTemp),
+                ", MaxTemp: ", std::to_string(MaxTemp),
+                ", AvailableMinRFOutputPower: ", std::to_string(AvailableMinRFOutputPower),
+                ", AvailableMaxRFOutputPower: ", maxPowerItems(),
+                ", MinTXFrequency: ", std::to_string(MinTXFrequency),
+                ", MaxTXFrequency: ", std::to_string(MaxTXFrequency),
+                ", MinRXFrequency: ", std::to_string(MinRXFrequency),
+                ", MaxRXFrequency: ", std::to_string(MaxRXFrequency),
+                ", FrequencyStepSize: ", std::to_string(FrequencyStepSize),
+                ", MinTXFrequencyStep: ", std::to_string(MinTXFrequencyStep),
+                ", MaxTXFrequencyStep: ", std::to_string(MaxTXFrequencyStep),
+                ", MinRXFrequencyStep: ", std::to_string(MinRXFrequencyStep),
+                ", MaxRXFrequencyStep: ", std::to_string(MaxRXFrequencyStep),
+                ", TXBaseFrequency: ", std::to_string(TXBaseFrequency),
+                ", RXBaseFrequency: ", std::to_string(RXBaseFrequency),
+                ", FrequencyBand: ", std::to_string(FrequencyBand),
+                ", FrequencySubBand: ", std::to_string(FrequencySubBand),
+                ", DuplexType: ", DuplexType,
+                ", AvailableRSECs: ", rsecItems(),
+                "\n, TapsCapable: ", std::to_string(TapsCapable),
+                ", RfLoopAvailable: ", std::to_string(RfLoopAvailable)
+            });
             // clang-format on
         }
 
@@ -95,8 +98,8 @@ struct CriGetRadioChannelCapability
             std::string items;
             for (const MaxRFOutputPower& entry : AvailableMaxRFOutputPower)
             {
-                items += "Modulation:" + modulationAndCodeName(entry.modulationAndCode) +
-                         " Pmax:" + std::to_string(entry.power) + "\t";
+                items.append("Modulation:").append(modulationAndCodeName(entry.modulationAndCode));
+                items.append(" Pmax:").append(std::to_string(entry.power)).append("\t");
             }
             return items;
         }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "kel_top_api/BaseResponse.h"
+#include "kel_top_api/joined.h"
 #include "radio/RadioChannel.h"
 
 namespace kel_top_api
@@ -25,20 +26,22 @@ struct CriGetRadioChannelStatus
         std::string printResponse() override
         {
             // clang-format off
-            return "TXActualStatus: " + TXActualStatus +
-                   ", RadioChannelStatus: " + RadioChannelStatus +
-                   ", ActualModulation: " + ActualModulation +
-                   ", ActualTxModulation: " + ActualTxModulation +
-                   ", ActualRxModulation:" + ActualRxModulation + // no blank: readers of these lines know it so
-                   ", ActualRFInputPower: " + std::to_string(ActualRFInputPower) +
-                   ", ReportedRFOutputPower: " + std::to_string(ReportedRFOutputPower) +
-                   ", ClockStatus: " + std::to_string(ClockStatus) +
-                   ", ActualSNIR: " + std::to_string(ActualSNIR) +
-                   ", ErroredBlocks: " + std::to_string(ErroredBlocks) +
-                   ", BackgroundBlocks: " + std::to_string(BackgroundBlocks) +
-                   ", TxFrequency: " + std::to_string(TxFrequency) +
-                   ", RxFrequency: " + std::to_string(RxFrequency) +
-                   ", KelState: " + KelState + "\n";
+            return joined({
+                "TXActualStatus: ", TXActualStatus,
+                ", RadioChannelStatus: ", RadioChannelStatus,
+                ", ActualModulation: ", ActualModulation,
+                ", ActualTxModulation: ", ActualTxModulation,
+                ", ActualRxModulation:", ActualRxModulation, // no blank: readers of these lines know it so
+                ", ActualRFInputPower: ", std::to_string(ActualRFInputPower),
+                ", ReportedRFOutputPower: ", std::to_string(ReportedRFOutputPower),
+                ", ClockStatus: ", std::to_string(ClockStatus),
+                ", ActualSNIR: ", std::to_string(ActualSNIR),
+                ", ErroredBlocks: ", std::to_string(ErroredBlocks),
+                ", BackgroundBlocks: ", std::to_string(BackgroundBlocks),
+                ", TxFrequency: ", std::to_string(TxFrequency),
+                ", RxFrequency: ", std::to_string(RxFrequency),
+                ", KelState: ", KelState, "\n"
+            });
             // clang-format on
         }
 

@@ -5,6 +5,7 @@
 
 #include "kel_top_api/BaseResponse.h"
 #include "kel_top_api/Optional.h"
+#include "kel_top_api/joined.h"
 #include "radio/RadioChannel.h"
 
 namespace kel_top_api
@@ -74,21 +75,23 @@ struct TiManageXpic
         std::string printResponse() override
         {
             // clang-format off
-            return "RadioChannelID: " + std::to_string(RadioChannelID) +
-                   ", XpicControlBarOn: " + std::to_string(XpicControlBarOn) +
-                   ", XpicEnable: " + std::to_string(XpicEnable) +
-                   ", AverageI: " + std::to_string(AverageI) +
-                   ", AverageQ: " + std::to_string(AverageQ) +
-                   ", TxMessage: " + TxMessage +
-                   ", RxMessage: " + RxMessage +
-                   ", XpicLockStateMachine: " + std::to_string(XpicLockStateMachine) +
-                   ", XpicState: " + XpicState +
-                   ", SlaveInternalAgc: " + std::to_string(SlaveInternalAgc) +
-                   ", SlaveExternalAgc: " + std::to_string(SlaveExternalAgc) +
-                   ", XpicCableConnected: " + std::to_string(XpicCableConnected) +
-                   ", XpicTxEnable: " + std::to_string(XpicTxEnable) +
-                   ", XpicEnableExt: " + nameOf(XpicEnableExt) +
-                   ", SlaveDiffGain: " + std::to_string(SlaveDiffGain);
+            return joined({
+                "RadioChannelID: ", std::to_string(RadioChannelID),
+                ", XpicControlBarOn: ", std::to_string(XpicControlBarOn),
+                ", XpicEnable: ", std::to_string(XpicEnable),
+                ", AverageI: ", std::to_string(AverageI),
+                ", AverageQ: ", std::to_string(AverageQ),
+                ", TxMessage: ", TxMessage,
+                ", RxMessage: ", RxMessage,
+                ", XpicLockStateMachine: ", std::to_string(XpicLockStateMachine),
+                ", XpicState: ", XpicState,
+                ", SlaveInternalAgc: ", std::to_string(SlaveInternalAgc),
+                ", SlaveExternalAgc: ", std::to_string(SlaveExternalAgc),
+                ", XpicCableConnected: ", std::to_string(XpicCableConnected),
+                ", XpicTxEnable: ", std::to_string(XpicTxEnable),
+                ", XpicEnableExt: ", nameOf(XpicEnableExt),
+                ", SlaveDiffGain: ", std::to_string(SlaveDiffGain)
+            });
             // clang-format on
         }
 
