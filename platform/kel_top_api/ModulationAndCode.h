@@ -1,8 +1,11 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kel_top_api
@@ -24,17 +27,42 @@ struct ModulationAndCode
 } // namespace kel_top_api
 
 /// Every known modulation and code, in the order of the codes: a new table with each call, the caller's own.
-inline std::vector<kel_top_api::ModulationAndCode> getModulationAndCodeVector()
+/// A function of its own in whatever has but one call of it, too: the library offers it to any reader of such codes.
+[[gnu::noinline]] inline std::vector<kel_top_api::ModulationAndCode> getModulationAndCodeVector()
 {
     using kel_top_api::UndefinedModulationAndCode;
 
     struct Row
     {
+        constexpr Row(std::uint32_t code_, std::string_view name_, std::uint32_t modulation_, std::uint32_t variant_,
+                      std::uint32_t strength_)
+            : code(code_), modulation(modulation_), variant(variant_), strength(strength_), length(name_.size())
+        {
+            std::copy(name_.begin(), name_.end(), name);
+        }
+
+        explicit operator kel_top_api::ModulationAndCode() const
+        {
+            // A number of letters that the compiler knows is copied by two moves, any other one by a call.
+            constexpr std::size_t Usual = 15;
+            kel_top_api::ModulationAndCode row{code, std::string(name, Usual), modulation, variant, strength};
+            if (length <= Usual)
+            {
+                row.name.resize(length);
+            }
+            else
+            {
+                row.name.assign(name, length);
+            }
+            return row;
+        }
+
         std::uint32_t code;
-        const char* name;
         std::uint32_t modulation;
         std::uint32_t variant;
         std::uint32_t strength;
+        std::size_t length;
+        char name[16] = {}; ///< the longest has so many letters
     };
     // clang-format off
     static constexpr Row rows[] = {
@@ -84,13 +112,7 @@ inline std::vector<kel_top_api::ModulationAndCode> getModulationAndCodeVector()
     };
     // clang-format on
 
-    std::vector<kel_top_api::ModulationAndCode> table;
-    table.reserve(std::size(rows));
-    for (const Row& row : rows)
-    {
-        table.push_back({row.code, row.name, row.modulation, row.variant, row.strength});
-    }
-    return table;
+    return {std::begin(rows), std::end(rows)};
 }
 
 namespace kel_top_api

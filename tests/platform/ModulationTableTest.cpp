@@ -38,6 +38,7 @@ const std::vector<Row> Rows = {
 std::vector<Row> rowsOf(const std::vector<ModulationAndCode>& table)
 {
     std::vector<Row> rows;
+    rows.reserve(table.size());
     for (const ModulationAndCode& row : table)
     {
         rows.emplace_back(row.code, row.name, row.modulation, row.variant, row.strength);
