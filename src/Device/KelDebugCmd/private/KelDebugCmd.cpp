@@ -32,11 +32,23 @@ using kel_top_api::TiManageXpic;
 /// The framework reads it for as long as the module lives.
 constexpr unsigned long RegistrationList[] = {11};
 
-/// The place of the caller, for the trace: its line, and its bare name where the standard's source_location would give
-/// the whole signature.
-VemTraceHeader here(int line = __builtin_LINE(), const char* function = __builtin_FUNCTION())
+/// A place in this file, for the trace. Two words, which cost a command nothing that does not fail.
+struct Place
 {
-    return {"src/Device/KelDebugCmd/private/KelDebugCmd", line, function};
+    int line;
+    const char* function;
+};
+
+/// The place of the caller: its line, and its bare name where the standard's source_location would give the whole
+/// signature.
+Place here(int line = __builtin_LINE(), const char* function = __builtin_FUNCTION())
+{
+    return {line, function};
+}
+
+VemTraceHeader headerOf(Place place)
+{
+    return {"src/Device/KelDebugCmd/private/KelDebugCmd", place.line, place.function};
 }
 
 /// The broker's interface of that name; null when it is absent, empty or of another type.
@@ -64,42 +76,44 @@ TiManageXpic::Command xpicCommand(RadioChannel channel)
 
 // How a command ends: the service's answer is judged, and a failure traced in the style of the command's family.
 
+int failDpd(std::int32_t code, VemTrace& trace, Place place, std::string_view reason)
+{
+    traceLine(trace, headerOf(place), place.function, reason, std::to_string(code));
+    return Failed;
+}
+
 /// A channel without a controller fails without a trace.
 template <typename Call>
-int commandDpd(IDpdControllerSplit* dpd, const Call& call, VemTrace& trace, const VemTraceHeader& header,
-               std::string_view reason)
+int commandDpd(IDpdControllerSplit* dpd, const Call& call, VemTrace& trace, Place place, std::string_view reason)
 {
     if (dpd == nullptr)
     {
         return Failed;
     }
     const auto code = static_cast<std::int32_t>(call(*dpd));
-    if (platformFailed(code))
-    {
-        traceLine(trace, header, header.function, reason, std::to_string(code));
-        return Failed;
-    }
-    return Done;
+    return platformFailed(code) ? failDpd(code, trace, place, reason) : Done;
 }
 
-int endXpic(const TiManageXpic::Response& response, VemTrace& trace, const VemTraceHeader& header)
+int failXpic(const TiManageXpic::Response& response, VemTrace& trace, Place place)
 {
-    if (apiFailed(response))
-    {
-        traceText(trace, header, response.resultText);
-        return Failed;
-    }
-    return Done;
+    traceText(trace, headerOf(place), response.resultText);
+    return Failed;
 }
 
-int endPps(const BaseResponse& response, VemTrace& trace, const VemTraceHeader& header)
+int endXpic(const TiManageXpic::Response& response, VemTrace& trace, Place place)
 {
-    if (apiFailed(response))
-    {
-        traceBuffer(trace, header, response.resultText);
-        return Failed;
-    }
-    return Done;
+    return apiFailed(response) ? failXpic(response, trace, place) : Done;
+}
+
+int failPps(const BaseResponse& response, VemTrace& trace, Place place)
+{
+    traceBuffer(trace, headerOf(place), response.resultText);
+    return Failed;
+}
+
+int endPps(const BaseResponse& response, VemTrace& trace, Place place)
+{
+    return apiFailed(response) ? failPps(response, trace, place) : Done;
 }
 
 } // namespace
@@ -124,7 +138,7 @@ std::int32_t KelDebugCmd::onModuleInit()
     if (boardSupport == nullptr)
     {
         // Readers of the trace search for "toIRlbspKelApi": no blank.
-        traceLine(m_trace, here(), "onModuleInit", "(): failed to get interface to", boardSupportName);
+        traceLine(m_trace, headerOf(here()), "onModuleInit", "(): failed to get interface to", boardSupportName);
         return PlatformFailure;
     }
     boardSupport->installDebugCmdCallback(this);
@@ -136,7 +150,7 @@ std::int32_t KelDebugCmd::onModuleInit()
         m_dpdController[channel - 1] = lookUp<IDpdControllerSplit>(name);
         if (m_dpdController[channel - 1] == nullptr)
         {
-            traceLine(m_trace, here(), "onModuleInit", "(): Error getting interface to ", name);
+            traceLine(m_trace, headerOf(here()), "onModuleInit", "(): Error getting interface to ", name);
             return PlatformFailure;
         }
     }
