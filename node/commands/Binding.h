@@ -171,7 +171,8 @@ struct Slot;
 struct Printed
 {
     std::string text;
-    std::vector<report::Field> fields;
+    std::vector<report::Field> fields{};
+    bool isReport = false;
 };
 
 /// An argument: read before the call.
@@ -327,7 +328,7 @@ struct Slot<std::string&> : FilledSlot
 
     Printed print(int result) const
     {
-        return {report, result == 0 ? report::fieldsOf(report) : std::vector<report::Field>()};
+        return {.text = report, .isReport = result == 0};
     }
 
     std::string report;
@@ -420,6 +421,7 @@ inline void add(Outcome& outcome, const Printed& printed)
 {
     outcome.output += printed.text;
     outcome.fields.insert(outcome.fields.end(), printed.fields.begin(), printed.fields.end());
+    outcome.isReport = outcome.isReport || printed.isReport;
 }
 
 /// The command that calls `member` of the module.

@@ -8,20 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "node/commands/Outcome.h"
 #include "node/commands/Value.h"
-#include "node/report/Field.h"
 #include "node/terminal/Screen.h"
 
 namespace node::commands
 {
-
-/// What a command answered.
-struct Outcome
-{
-    int result = 0;                      ///< 0 done, 1 failed
-    std::string output;                  ///< the report as the module wrote it, or the value that was read
-    std::vector<report::Field> fields{}; ///< what the output says, as values
-};
 
 /// A command of the simulated node failed; what() says why.
 class CommandError : public std::runtime_error

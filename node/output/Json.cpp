@@ -102,7 +102,7 @@ Json toJson(const Answer& answer)
     document["exit_status"] = static_cast<int>(answer.status);
     document["result"] = answer.outcome ? Json(outcome.result) : Json();
     addText(document, "report", outcome.output);
-    document["fields"] = toJsonList(outcome.fields);
+    document["fields"] = toJsonList(fieldsOf(outcome));
     document["trace"] = toJsonList(answer.trace);
     addTextOrNull(document, "error", answer.error);
     return document;

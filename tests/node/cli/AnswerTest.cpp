@@ -55,7 +55,7 @@ result 0, "the report\n"
               answerTo("getC 0x2", "faults.txt:3"));
     desk.recorder.report = "Lock: locked\n";
     answerTo("getCtStatus 1");
-    EXPECT_EQ(node::report::fieldsOf("Lock: locked\n"), output.answers.at(0).outcome->fields);
+    EXPECT_EQ(node::report::fieldsOf("Lock: locked\n"), fieldsOf(*output.answers.at(0).outcome));
 }
 
 TEST_F(AnswerTest, HasTheReportOfACommandThatFailed)

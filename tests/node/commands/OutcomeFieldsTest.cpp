@@ -65,7 +65,7 @@ class OutcomeFieldsTest : public ::testing::Test
 protected:
     std::vector<Field> fieldsOf(const std::string& name, const std::vector<std::string>& words = {})
     {
-        return node::commands::commandNamed(name).call(desk, console, words).fields;
+        return node::commands::fieldsOf(node::commands::commandNamed(name).call(desk, console, words));
     }
 
     RecordingDesk desk;
