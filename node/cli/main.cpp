@@ -76,6 +76,7 @@ std::optional<Typist> makeTypist(const Options& options)
         const auto lines = std::make_shared<node::terminal::PlainLines>(stderr);
         return Typist{[lines](const std::string& prompt) { return lines->read(prompt); }, nullptr};
     }
+    std::setlocale(LC_CTYPE, ""); // for the letters that are typed; numbers stay as they are
     const std::string folder = node::terminal::stateFolder("kel-node");
     Typist typist;
     typist.editor =
@@ -259,7 +260,6 @@ int main(int argc, char** argv)
 {
     // Whoever reads a pipe may close it: then the program ends as others do, whatever it was started from.
     std::signal(SIGPIPE, SIG_DFL);
-    std::setlocale(LC_CTYPE, ""); // for the letters that are typed; numbers stay as they are
     std::ios::sync_with_stdio(false);
     try
     {
