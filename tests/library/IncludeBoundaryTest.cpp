@@ -69,10 +69,12 @@ const std::vector<Room> Rooms = {
      {"expected", "doubles", "tests", "cli", "output", "commands", "scenario", "startup", "services", "radio", "module",
       "platform", "trace", "wording"},
      TestRoots},
+    {"bench", "bench", {"doubles", "trace", "module", "platform"}, TestRoots},
     {"tests",
      "tests",
-     {"doubles", "fuzz", "cli", "reference", "output", "commands", "scenario", "startup", "services", "radio", "module",
-      "module_private", "platform", "framework", "trace", "wording", "terminal", "report", "plot"},
+     {"doubles", "bench",    "fuzz",   "cli",    "reference",      "output",   "commands",  "scenario",
+      "startup", "services", "radio",  "module", "module_private", "platform", "framework", "trace",
+      "wording", "terminal", "report", "plot"},
      TestRoots},
 };
 
