@@ -2,9 +2,6 @@
 
 #include <string>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include "node/terminal/TypedInput.h"
@@ -26,11 +23,9 @@ TEST(StandardInputTest, WhatIsReadStandsBehindWhatWasThere)
     EXPECT_EQ("one two", bytes);
 }
 
-TEST(StandardInputTest, NothingTypedYetIsNotTheEnd)
+TEST(StandardInputTest, NothingTypedIsNeitherWaitedForNorTheEnd)
 {
     const TypedInput input;
-    // As somebody who had the terminal before may have left it.
-    ASSERT_EQ(0, fcntl(STDIN_FILENO, F_SETFL, O_NONBLOCK));
     std::string bytes = "one";
     EXPECT_TRUE(readInput(bytes));
     EXPECT_EQ("one", bytes);
