@@ -1,7 +1,7 @@
 #include "bench/Programs.h"
 
 #include <csignal>
-#include <optional>
+#include <functional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -42,40 +42,38 @@ std::string repeated(const std::string& text, int times)
     return all;
 }
 
-/// A program that reads lines, and what it has to print.
-struct Reader
+/// A program, the lines that it reads, and what it has to print.
+struct Reading
 {
-    std::string name;
     std::vector<std::string> words;
-    std::string first;
-    std::string line;
-    int lines;
-    std::string last;
+    std::string input;
     std::string output;
 };
 
-void registerReader(const Reader& reader)
+/// @param make  is called before the first time that is measured, and not where nothing is
+void registerReader(const std::string& name, int lines, const std::function<Reading()>& make)
 {
-    const auto read = [reader, memory_KiB = std::optional<long>()](benchmark::State& state) mutable
+    // Run many times, once for each repetition.
+    const auto read = [name, lines, make, reading = Reading(), memory_KiB = 0L](benchmark::State& state) mutable
     {
-        const std::string input = reader.first + repeated(reader.line, reader.lines) + reader.last;
-        if (!memory_KiB) // once of the many times that this is run
+        if (reading.words.empty())
         {
-            const Done done = ask(reader.words, input);
-            if (done.output != reader.output)
+            reading = make();
+            const Done done = ask(reading.words, reading.input);
+            if (done.output != reading.output)
             {
-                throw std::runtime_error(reader.name + ": found another output than expected");
+                throw std::runtime_error(name + ": found another output than expected");
             }
             memory_KiB = done.memory_KiB;
         }
-        state.counters["memory_KiB"] = static_cast<double>(*memory_KiB);
+        state.counters["memory_KiB"] = static_cast<double>(memory_KiB);
         for (auto _ : state)
         {
-            run(reader.words, input);
+            run(reading.words, reading.input);
         }
-        state.counters["lines"] = reader.lines;
+        state.counters["lines"] = lines;
     };
-    registerTimed(reader.name, read)->UseRealTime()->Unit(benchmark::kMillisecond);
+    registerTimed(name, read)->UseRealTime()->Unit(benchmark::kMillisecond);
 }
 
 /// Statements that make a table of a text's lines.
@@ -90,6 +88,12 @@ std::string tableOf(const std::string& text)
     return statements;
 }
 
+/// What the node answers to "getCtStatus 1".
+std::string ctReport()
+{
+    return ask({KEL_NODE, "getCtStatus", "1"}, "").output;
+}
+
 void registerReaders()
 {
     const std::vector<std::string> node = {KEL_NODE};
@@ -97,18 +101,32 @@ void registerReaders()
 
     // The node's shortest command, which prints nothing: a fault that is still to come counts it.
     constexpr int Trivial = 100'000;
-    const std::string fault = "IDpdControllerSplit.start code=32768 from_call=1000000";
-    registerReader({"startDpd lines/kel-node", node, "addFault " + fault + "\n", "startDpd 1\n", Trivial,
-                    "listFaults\n", fault + ": seen " + std::to_string(Trivial) + ", hit 0\n"});
-    registerReader({"startDpd lines/sqlite3", sqlite, "", "select 1;\n", Trivial, "", repeated("1\n", Trivial)});
+    registerReader("startDpd lines/kel-node", Trivial,
+                   [node]
+                   {
+                       const std::string fault = "IDpdControllerSplit.start code=32768 from_call=1000000";
+                       return Reading{node,
+                                      "addFault " + fault + "\n" + repeated("startDpd 1\n", Trivial) + "listFaults\n",
+                                      fault + ": seen " + std::to_string(Trivial) + ", hit 0\n"};
+                   });
+    registerReader("startDpd lines/sqlite3", Trivial,
+                   [sqlite] {
+                       return Reading{sqlite, repeated("select 1;\n", Trivial), repeated("1\n", Trivial)};
+                   });
 
     // Both print the same lines; sqlite3 has them in a table, and composes none.
     constexpr int Reports = 20'000;
-    const std::string report = ask({KEL_NODE, "getCtStatus", "1"}, "").output;
-    const std::string reports = repeated(report, Reports);
-    registerReader({"getCtStatus lines/kel-node", node, "", "getCtStatus 1\n", Reports, "", reports});
-    registerReader(
-        {"getCtStatus lines/sqlite3", sqlite, tableOf(report), "select line from report;\n", Reports, "", reports});
+    registerReader("getCtStatus lines/kel-node", Reports,
+                   [node] {
+                       return Reading{node, repeated("getCtStatus 1\n", Reports), repeated(ctReport(), Reports)};
+                   });
+    registerReader("getCtStatus lines/sqlite3", Reports,
+                   [sqlite]
+                   {
+                       const std::string report = ctReport();
+                       return Reading{sqlite, tableOf(report) + repeated("select line from report;\n", Reports),
+                                      repeated(report, Reports)};
+                   });
 }
 
 } // namespace
