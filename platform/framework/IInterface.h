@@ -12,6 +12,9 @@ public:
 
 protected:
     IInterface() = default;
+    /// @{
+    /// For what implements an interface; who holds one does not copy it.
     IInterface(const IInterface&) = default;
     IInterface& operator=(const IInterface&) = default;
+    /// @}
 };

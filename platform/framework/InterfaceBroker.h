@@ -13,6 +13,7 @@
 class InterfaceBroker
 {
 public:
+    /// Names, and the objects that offer the interfaces of these names.
     using Interfaces = std::map<std::string, std::shared_ptr<IInterface>>;
 
     /// The node's one broker.

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// What a module of the framework derives from.
+
 #include <cstdint>
 #include <string>
 
@@ -27,8 +30,15 @@ public:
 
     virtual ~ModuleInterface();
 
+    /// Called when a phase is activated; number and priority are the framework's own.
     virtual std::int32_t onPhaseActivation(unsigned long phase, ECallbackPriority priority);
+
+    /// Called when the framework initialises its modules. The broker has its entries by then, and a module looks its
+    /// interfaces up.
     virtual std::int32_t onModuleInit();
+
+    /// @{
+    /// Called in the phase of that name.
     virtual std::int32_t onPhaseModuleStorageObjectsRetrieved();
     virtual std::int32_t onPhasePostFrameformatLoad();
     virtual std::int32_t onPhaseEndFrameformatLoad();
@@ -52,17 +62,23 @@ public:
     virtual std::int32_t onPhaseDspRecoveryReconfig();
     virtual std::int32_t onPhasePostDspRecovery();
     virtual std::int32_t onPhaseEnableAlarmThread();
+    /// @}
 
     /// What the constructor was given. The framework's own; modules do not call it.
     struct Registration
     {
+        /// @{
+        /// The argument of that name.
         unsigned int number;
         std::string name;
         unsigned int secondNumber;
         unsigned int thirdNumber;
         const unsigned long* list;
         unsigned int listLength;
+        /// @}
     };
+
+    /// As it was given, for as long as the module lives.
     const Registration& registration() const;
 
 private:

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+/// The node's top-level API: functions that take a command record, return when the node has dealt with it, and answer
+/// with a response record, in which a refusal stands.
 namespace kel_top_api
 {
 
@@ -13,13 +15,16 @@ class BaseResponse
 {
 public:
     BaseResponse() = default;
+    /// @{
+    /// A response is a value: member by member.
     BaseResponse(const BaseResponse&) = default;
     BaseResponse(BaseResponse&&) = default;
     BaseResponse& operator=(const BaseResponse&) = default;
     BaseResponse& operator=(BaseResponse&&) = default;
+    /// @}
     virtual ~BaseResponse() = default;
 
-    /// The response as text.
+    /// The response as text; each kind of response has a form of its own.
     virtual std::string printResponse()
     {
         return "Sent\n";

@@ -11,11 +11,13 @@ namespace kel_top_api
 /// Time that the signal travels over the hop, as the DSP's pulse-per-second (PPS) function measured it.
 struct CriGetHopLengthTimeDspPps
 {
+    /// Whose time is wanted.
     struct Command
     {
-        RadioChannel radioChannel = 0;
+        RadioChannel radioChannel = 0; ///< 1 or 2
     };
 
+    /// The time.
     class Response : public BaseResponse
     {
     public:
@@ -23,6 +25,7 @@ struct CriGetHopLengthTimeDspPps
     };
 };
 
+/// Asks for the time over the hop.
 CriGetHopLengthTimeDspPps::Response criGetHopLengthTimeDspPps(const CriGetHopLengthTimeDspPps::Command& command);
 
 } // namespace kel_top_api

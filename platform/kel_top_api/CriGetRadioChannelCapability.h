@@ -19,22 +19,26 @@ struct CriGetRadioChannelCapability
     /// Callers choose the channel; the other members keep the API's defaults and are numbered by their place.
     struct Command
     {
-        RadioChannel radioChannel = 0;
+        RadioChannel radioChannel = 0; ///< 1 or 2
+        /// @{
+        /// The API's own.
         std::uint32_t number2 = 0;
         std::uint32_t modulationAndCode3 = UndefinedModulationAndCode;
         std::uint32_t modulationAndCode4 = UndefinedModulationAndCode;
         std::uint32_t number5 = 1000;
         std::uint32_t number6 = 0;
         std::uint32_t number7 = 0;
+        /// @}
     };
 
     /// Highest output power with one modulation and code.
     struct MaxRFOutputPower
     {
-        std::uint32_t modulationAndCode = UndefinedModulationAndCode;
-        std::int32_t power = 0; ///< hundredths of a dBm
+        std::uint32_t modulationAndCode = UndefinedModulationAndCode; ///< a code of getModulationAndCodeVector()
+        std::int32_t power = 0;                                       ///< hundredths of a dBm
     };
 
+    /// What the channel can do.
     class Response : public BaseResponse
     {
     public:
@@ -69,16 +73,18 @@ struct CriGetRadioChannelCapability
             // clang-format on
         }
 
-        std::uint32_t NumberOfChannels = 0;
-        std::int32_t MinTemp = 0;
-        std::int32_t MaxTemp = 0;
+        std::uint32_t NumberOfChannels = 0;         ///< how many radio channels there are
+        std::int32_t MinTemp = 0;                   ///< lowest temperature of operation, in the API's own unit
+        std::int32_t MaxTemp = 0;                   ///< highest temperature of operation, likewise
         std::int32_t AvailableMinRFOutputPower = 0; ///< hundredths of a dBm
-        std::vector<MaxRFOutputPower> AvailableMaxRFOutputPower;
-        std::uint32_t MinTXFrequency = 0;    ///< kHz
-        std::uint32_t MaxTXFrequency = 0;    ///< kHz
-        std::uint32_t MinRXFrequency = 0;    ///< kHz
-        std::uint32_t MaxRXFrequency = 0;    ///< kHz
-        std::uint32_t FrequencyStepSize = 0; ///< kHz
+        std::vector<MaxRFOutputPower> AvailableMaxRFOutputPower; ///< an entry for each modulation and code
+        std::uint32_t MinTXFrequency = 0;                        ///< kHz
+        std::uint32_t MaxTXFrequency = 0;                        ///< kHz
+        std::uint32_t MinRXFrequency = 0;                        ///< kHz
+        std::uint32_t MaxRXFrequency = 0;                        ///< kHz
+        std::uint32_t FrequencyStepSize = 0;                     ///< kHz
+        /// @{
+        /// Of the frequency plan, in the API's own units and coding.
         std::uint32_t MinTXFrequencyStep = 0;
         std::uint32_t MaxTXFrequencyStep = 0;
         std::uint32_t MinRXFrequencyStep = 0;
@@ -87,10 +93,14 @@ struct CriGetRadioChannelCapability
         std::uint32_t RXBaseFrequency = 0;
         std::uint32_t FrequencyBand = 0;
         std::uint32_t FrequencySubBand = 0;
-        std::string DuplexType;
+        /// @}
+        std::string DuplexType;                    ///< duplex arrangement, in words
         std::vector<std::uint32_t> AvailableRSECs; ///< RSEC codes of the equipment classes
+        /// @{
+        /// A flag of the API's own.
         bool TapsCapable = false;
         bool RfLoopAvailable = false;
+        /// @}
 
     private:
         std::string maxPowerItems() const
@@ -118,6 +128,7 @@ struct CriGetRadioChannelCapability
     };
 };
 
+/// Asks what a channel can do.
 CriGetRadioChannelCapability::Response
 criGetRadioChannelCapability(const CriGetRadioChannelCapability::Command& command);
 

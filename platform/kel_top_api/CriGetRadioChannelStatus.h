@@ -13,12 +13,14 @@ namespace kel_top_api
 /// Live status of a radio channel.
 struct CriGetRadioChannelStatus
 {
+    /// Whose status is wanted.
     struct Command
     {
-        RadioChannel radioChannel = 0;
-        bool flag2 = false; ///< the API's own
+        RadioChannel radioChannel = 0; ///< 1 or 2
+        bool flag2 = false;            ///< the API's own
     };
 
+    /// How the channel is.
     class Response : public BaseResponse
     {
     public:
@@ -45,26 +47,27 @@ struct CriGetRadioChannelStatus
             // clang-format on
         }
 
-        std::string TXActualStatus;
-        std::string RadioChannelStatus; ///< "Up" and "Down" tell the lock of the DSP
-        std::string ActualModulation;
-        std::string ActualTxModulation;
-        std::string ActualRxModulation;
+        std::string TXActualStatus;             ///< state of the transmitter, in words
+        std::string RadioChannelStatus;         ///< "Up" and "Down" tell the lock of the DSP
+        std::string ActualModulation;           ///< modulation at the moment
+        std::string ActualTxModulation;         ///< name of the modulation and code that is sent
+        std::string ActualRxModulation;         ///< name of the modulation and code that is received
         std::int32_t ActualRFInputPower = 0;    ///< hundredths of a dBm
         std::int32_t ReportedRFOutputPower = 0; ///< hundredths of a dBm
-        std::int32_t ClockStatus = 0;
-        std::int32_t ActualSNIR = 0; ///< hundredths of a dB
-        std::int32_t ErroredBlocks = 0;
-        std::int32_t BackgroundBlocks = 0;
-        std::int32_t TxFrequency = 0; ///< kHz
-        std::int32_t RxFrequency = 0; ///< kHz
-        std::string KelState;
-        bool XpicIsStarted = false;
-        std::int32_t ActualXpi = 0; ///< meaningful while XpicIsStarted
-        std::string XpicState;      ///< meaningful while XpicIsStarted
+        std::int32_t ClockStatus = 0;           ///< state of the clock, in the API's own coding
+        std::int32_t ActualSNIR = 0;            ///< signal to noise and interference, hundredths of a dB
+        std::int32_t ErroredBlocks = 0;         ///< how many
+        std::int32_t BackgroundBlocks = 0;      ///< how many
+        std::int32_t TxFrequency = 0;           ///< kHz
+        std::int32_t RxFrequency = 0;           ///< kHz
+        std::string KelState;                   ///< state of the carrier termination, in words
+        bool XpicIsStarted = false;             ///< whether the canceller runs
+        std::int32_t ActualXpi = 0;             ///< meaningful while XpicIsStarted
+        std::string XpicState;                  ///< meaningful while XpicIsStarted
     };
 };
 
+/// Asks how a channel is.
 CriGetRadioChannelStatus::Response criGetRadioChannelStatus(const CriGetRadioChannelStatus::Command& command);
 
 } // namespace kel_top_api

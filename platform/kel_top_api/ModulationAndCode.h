@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Modulations with their coding strengths, and their codes.
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -18,10 +21,10 @@ inline constexpr std::uint32_t UndefinedModulationAndCode = 143;
 struct ModulationAndCode
 {
     std::uint32_t code = UndefinedModulationAndCode; ///< 10 x position of the modulation + strength
-    std::string name;
-    std::uint32_t modulation = 0; ///< constellation size; 16385 for UNDEFINED
-    std::uint32_t variant = 0;    ///< 2 for the HALF_BPSK kinds, 0 for the others, 5 for UNDEFINED
-    std::uint32_t strength = 0;   ///< 0 strong, 1 plain, 2 light, 3 UNDEFINED
+    std::string name;                                ///< such as "4QAM_STRONG"
+    std::uint32_t modulation = 0;                    ///< constellation size; 16385 for UNDEFINED
+    std::uint32_t variant = 0;                       ///< 2 for the HALF_BPSK kinds, 0 for the others, 5 for UNDEFINED
+    std::uint32_t strength = 0;                      ///< 0 strong, 1 plain, 2 light, 3 UNDEFINED
 };
 
 } // namespace kel_top_api

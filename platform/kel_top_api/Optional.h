@@ -9,9 +9,10 @@ namespace kel_top_api
 template <typename Value>
 struct Optional
 {
-    bool present = false;
-    Value value{};
+    bool present = false; ///< whether the value counts
+    Value value{};        ///< what it is, where it counts
 
+    /// Sets the value and lets it count.
     Optional& operator=(const Value& newValue)
     {
         value = newValue;

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Channels of the radio.
+
 #include <cstdint>
 
 /// A radio channel of the node, counted from 1. A node has one or two.

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The trace library.
+
 #include <cstddef>
 #include <cstdint>
 #include <ostream>
@@ -11,9 +14,9 @@ using VemTraceLevel = std::int32_t;
 /// Where a message was written. An empty header (no file, line 0, no function) names no place.
 struct VemTraceHeader
 {
-    const char* file = nullptr;
-    std::int32_t line = 0;
-    const char* function = nullptr;
+    const char* file = nullptr;     ///< path of the source file
+    std::int32_t line = 0;          ///< in that file, counted from 1
+    const char* function = nullptr; ///< its name alone
 };
 
 /// A channel's configuration, the trace library's own.

@@ -24,8 +24,8 @@ class GetCtStatusDebugCmd;
 /// it as the receiver of the debug commands. Everything it is given or looks up is borrowed and must outlive it:
 /// the two interfaces, and the broker's objects, among them the one that holds the installed callback.
 ///
-/// A command runs on its caller's thread, makes one to three synchronous calls and keeps nothing. Commands may run
-/// concurrently as far as the services that they call allow it, but not during onModuleInit() and the destructor.
+/// A command runs on its caller's thread, makes at most three synchronous calls of services and keeps nothing. Commands
+/// may run concurrently as far as these services allow it, but not during onModuleInit() and the destructor.
 /// Channels are 1 and 2; other values are outside the contract. A command answers exactly 0 (done) or 1 (failed)
 /// and replaces a report only when its text is complete; `std::bad_alloc` passes to the caller.
 class KelDebugCmd : public ModuleInterface, public IRlbspKelApi::KelDebugCmdCallback
@@ -41,8 +41,8 @@ public:
     /// @return 0, or 0x8000 when an interface is missing; without a DPD controller the other commands still work
     std::int32_t onModuleInit() override;
 
-    /// The carrier-termination report. Answers 0 in every case: the report itself tells of a failure. The report object
-    /// that it needs is there once onModuleInit() has found "IRlbspKelApi".
+    /// The carrier-termination report. Answers 0 in every case: the report itself tells of a failure. Not to be called
+    /// before onModuleInit() has returned, which makes what it needs after it has installed the object.
     int getCtStatus(RadioChannel channel, std::string& report) override;
 
     /// The modem's status as text.

@@ -1,6 +1,7 @@
 #include "private/GetCtStatusDebugCmd.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -55,6 +56,19 @@ using util::makeDbString;
 void appendLine(std::string& text, std::string_view label, std::string_view value, std::string_view unit = {})
 {
     text.append(label).append(value).append(unit).append("\n");
+}
+
+/// The name that a fresh table gives to a code. The platform's records look theirs up by themselves.
+std::string nameOf(std::uint32_t modulationAndCode)
+{
+    for (const kel_top_api::ModulationAndCode& row : getModulationAndCodeVector())
+    {
+        if (row.code == modulationAndCode)
+        {
+            return row.name;
+        }
+    }
+    return "UNDEFINED";
 }
 
 /// The name padded to its column; a longer one is written whole.
@@ -123,8 +137,7 @@ void appendCapability(std::string& text, const CriGetRadioChannelCapability::Res
     for (const auto& entry : capability.AvailableMaxRFOutputPower)
     {
         text += "            ";
-        appendLine(text, padded(kel_top_api::modulationAndCodeName(entry.modulationAndCode)),
-                   makeDbmString(entry.power));
+        appendLine(text, padded(nameOf(entry.modulationAndCode)), makeDbmString(entry.power));
     }
     text += "\n";
 }
