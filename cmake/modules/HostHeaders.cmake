@@ -1,5 +1,6 @@
-# add_host_headers(target folder): an imported target for a library that is nothing but the headers in /usr/include/folder.
-# Links to such folders alone are handed to the compiler: the rest of /usr/include is this machine's and not the target's.
+# add_host_headers(target folder): an imported target for a library that is nothing but the headers in
+# /usr/include/folder. Links to such folders alone are handed to the compiler: the rest of /usr/include is this
+# machine's and not the target's.
 function(add_host_headers target folder)
     if(TARGET ${target})
         return() # somebody else has found it
