@@ -1,6 +1,19 @@
 # shellcheck shell=bash
 # What the scripts share. Sourced, from the project's root folder.
 
+# help_where_asked SCRIPT ARGUMENT...: where the only argument is -h or --help, prints the comment that the script
+# begins with, and ends the script.
+help_where_asked() {
+    local script=$1
+    shift
+    case "$*" in
+    -h | --help)
+        sed -n '1d; /^#/!q; s/^# \{0,1\}//p' "$script"
+        exit
+        ;;
+    esac
+}
+
 # The packages of script/packages.txt that are for one of the given users and are not installed.
 missing_packages() {
     local user name
@@ -50,15 +63,16 @@ build() {
     esac
 }
 
-# prove_tests PRESET: builds all and runs all tests. On standard output, ctest's summary on one line: the stage's figure.
+# prove_tests PRESET: builds all and runs all tests. On standard output, ctest's summary on one line, which is the
+# stage's figure.
 prove_tests() {
     build "$1" all
     ctest --preset "$1" --no-tests=error --progress --output-log "build/$1/ctest.log" >&2
     sed -n 's/^\(.*% tests passed, .*\)$/\1/p' "build/$1/ctest.log"
 }
 
-# expect_caught FOLDER SOURCE [COMMAND...]: builds a program with a mistake as the build folder's are built, runs it behind
-# the command, and expects it to end badly and to say what the source's first line has behind "Told: ".
+# expect_caught FOLDER SOURCE [COMMAND...]: builds a program with a mistake as the build folder's are built, runs it
+# behind the command, and expects it to end badly and to say what the source's first line has behind "Told: ".
 expect_caught() {
     local folder=$1 source=$2 build_flags told
     shift 2

@@ -30,8 +30,9 @@ class GateTest(unittest.TestCase):
                          gate.wanted("stopDpd/module\nstopDpd/failed\nstopDpd/bare\nstart/kel-node/real_time\n"))
 
     def test_a_name_without_a_count_is_an_objection(self) -> None:
+        names = {"instructions: a", "instructions: b"}
         self.assertEqual(["instructions: b: found no count, expected one"],
-                         gate.incomplete({"instructions: a": 1, "bytes: file": 1}, {"instructions: a", "instructions: b"}))
+                         gate.incomplete({"instructions: a": 1, "bytes: file": 1}, names))
 
     def test_a_count_without_a_name_is_an_objection(self) -> None:
         self.assertEqual(["instructions: b: found a count of something that kel-bench does not tell"],

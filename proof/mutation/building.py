@@ -62,7 +62,9 @@ def make_build(root: Path, folder: Path, jobs: int) -> Build:
     run_tool(["cmake", "-S", str(root), "-B", str(folder), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=",
               "-DCMAKE_CXX_COMPILER=clang++", f"-DCMAKE_CXX_FLAGS={COMPILER_FLAGS}",
               "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold -Wl,--enable-new-dtags",
-              "-DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=gold"], root)
+              "-DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=gold",
+              # One name for the library, without the links that lead to the one with its version.
+              "-DCMAKE_PLATFORM_NO_VERSIONED_SONAME=ON"], root)
     targets = ["KelKelDebugCmd", *LIBRARY_PROGRAMS, *OTHER_PROGRAMS]
     run_tool(["ninja", "-C", str(folder), "-j", str(jobs), *targets, "test_locales"], root)
 

@@ -1,7 +1,7 @@
 """Sends commands with random faults through one process of the node and holds every answer against a prediction.
 
-The commands are tours, each from the start of a node. Each tour is made twice: its answers must be the same to the byte.
-Meanwhile neither the memory nor the open files of the process may grow.
+The commands are tours, each from the start of a node. Each tour is made twice: its answers must be the same to the
+byte. Meanwhile neither the memory nor the open files of the process may grow.
 
 Usage: soak.py PROGRAM COMMANDS
 """
