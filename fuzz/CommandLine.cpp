@@ -15,10 +15,10 @@
 #include "node/cli/Session.h"
 #include "node/commands/Command.h"
 #include "node/commands/Line.h"
-#include "node/output/AnswerSchema.h"
 #include "node/output/Json.h"
 #include "node/output/TextOutput.h"
 #include "node/wording/InputError.h"
+#include "support/AnswerSchema.h"
 
 namespace
 {

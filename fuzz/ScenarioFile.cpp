@@ -8,11 +8,11 @@
 
 #include "fuzz/NodeAround.h"
 #include "fuzz/Target.h"
-#include "node/scenario/Portrait.h"
 #include "node/scenario/Scenario.h"
 #include "node/services/FaultPlan.h"
 #include "node/startup/Node.h"
 #include "node/wording/InputError.h"
+#include "support/Portrait.h"
 
 namespace
 {

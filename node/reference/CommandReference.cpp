@@ -9,6 +9,7 @@
 #include "node/reference/Fill.h"
 #include "node/reference/Help.h"
 #include "node/reference/HowTo.h"
+#include "node/reference/PromptExamples.h"
 
 namespace node::reference
 {
@@ -20,7 +21,8 @@ using commands::CommandGroup;
 namespace
 {
 
-std::string section(const Command& command)
+/// @param transcript  what stands on the screen after lines were typed
+std::string section(const Command& command, const Transcript& transcript)
 {
     std::string text = fmt::format("\n### {0}\n\n```\n{1}\n```\n\n{2}.\n", markdown(command.name), usage(command),
                                    markdown(command.summary));
@@ -30,12 +32,14 @@ std::string section(const Command& command)
         text += fmt::format("| {} | {} | {} |\n", markdown(argument.name), markdown(argument.form),
                             markdown(argument.meaning));
     }
-    return text + (command.details.empty() ? "" : "\n```\n" + command.details + "```\n");
+    text += command.details.empty() ? "" : "\n```\n" + command.details + "```\n";
+    const std::vector<std::string> example = promptExample(command);
+    return text + (example.empty() ? "" : "\n```\n" + transcript(example) + "```\n");
 }
 
 } // namespace
 
-std::string commandReference()
+std::string commandReference(const Transcript& transcript)
 {
     constexpr std::size_t PageColumns = 120;
     std::string text = "# Commands\n"
@@ -48,7 +52,7 @@ std::string commandReference()
         text += fmt::format("\n## {}\n", markdown(group.heading));
         for (const Command& command : group.commands)
         {
-            text += section(command);
+            text += section(command, transcript);
         }
     }
     return text;

@@ -135,7 +135,7 @@ std::string commandEntries()
 std::string exampleParts()
 {
     std::string text;
-    for (const Example& example : examples())
+    for (const ShellExample& example : shellExamples())
     {
         text +=
             (text.empty() ? "" : ".PP\n") + roff(example.purpose) + ":\n" + asItStands("    $ " + example.line + "\n");
@@ -181,9 +181,9 @@ const std::vector<Entry>& files()
 
 } // namespace
 
-const std::vector<Example>& examples()
+const std::vector<ShellExample>& shellExamples()
 {
-    static const std::vector<Example> all = {
+    static const std::vector<ShellExample> all = {
         {"The report of a carrier termination", "kel-node getCtStatus 1"},
         {"The same after three minutes of a rain front",
          R"(printf 'advance 3min\ngetCtStatus 1\n' | kel-node -s rain-front)"},

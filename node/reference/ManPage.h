@@ -7,14 +7,14 @@ namespace node::reference
 {
 
 /// Something to try at a shell's prompt.
-struct Example
+struct ShellExample
 {
     std::string purpose;
     std::string line;
 };
 
 /// Those of the manual page.
-const std::vector<Example>& examples();
+const std::vector<ShellExample>& shellExamples();
 
 /// The manual page of the program, in the macros of man(7).
 /// @param version  of the program

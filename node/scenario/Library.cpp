@@ -25,8 +25,8 @@ fs::path folder()
         return chosen;
     }
     std::error_code unknown;
-    const fs::path installed = fs::read_symlink("/proc/self/exe", unknown).parent_path() / KEL_INSTALLED_SCENARIOS;
-    return fs::is_directory(installed, unknown) ? installed : KEL_SCENARIOS;
+    const fs::path program = fs::read_symlink("/proc/self/exe", unknown);
+    return (program.parent_path() / KEL_SCENARIOS).lexically_normal();
 }
 
 std::string readFile(const std::string& fileName)

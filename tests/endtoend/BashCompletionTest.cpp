@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "node/commands/TemporaryFolder.h"
-#include "node/reference/Shell.h"
-#include "terminal/Terminal.h"
+#include "support/Shell.h"
+#include "support/TemporaryFolder.h"
+#include "support/Terminal.h"
 
 namespace
 {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "terminal/Terminal.h"
+#include "support/Terminal.h"
 
 namespace
 {

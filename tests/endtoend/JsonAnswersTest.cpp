@@ -9,7 +9,7 @@
 
 #include "endtoend/Program.h"
 #include "node/commands/Command.h"
-#include "node/commands/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 using nlohmann::json;
 

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "node/reference/ManPage.h"
-#include "node/reference/Shell.h"
+#include "support/Shell.h"
 
 namespace
 {
@@ -29,7 +29,7 @@ TEST(ManPageTest, IsBuiltWithTheProgramOfThisVersion)
 TEST(ManPageTest, EachExampleDoesWhatItSays)
 {
     const std::string path = "PATH=" + shellWord(std::filesystem::path(KEL_NODE).parent_path()) + ":$PATH; ";
-    for (const auto& example : node::reference::examples())
+    for (const auto& example : node::reference::shellExamples())
     {
         const Ended ended = inShell(path + example.line);
         EXPECT_EQ(0, ended.status) << example.line;

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/reference/Help.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

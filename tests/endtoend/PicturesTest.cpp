@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/commands/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include <csignal>
 
 #include "endtoend/Program.h"
-#include "terminal/Terminal.h"
+#include "support/Terminal.h"
 
 namespace
 {

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "node/commands/TemporaryFolder.h"
-#include "terminal/Terminal.h"
+#include "support/TemporaryFolder.h"
+#include "support/Terminal.h"
 
 namespace
 {

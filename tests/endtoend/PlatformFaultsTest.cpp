@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/services/PlatformCall.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

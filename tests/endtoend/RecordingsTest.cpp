@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/commands/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

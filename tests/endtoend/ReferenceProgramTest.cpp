@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "node/cli/Transcript.h"
 #include "node/reference/BashCompletion.h"
 #include "node/reference/CommandReference.h"
 #include "node/reference/ManPage.h"
-#include "node/reference/Shell.h"
+#include "support/Shell.h"
 
 namespace
 {
@@ -19,7 +20,7 @@ Ended printed(const std::string& arguments)
 TEST(ReferenceProgramTest, PrintsEachDocument)
 {
     EXPECT_EQ(node::reference::manPage("1.2.3", "2026-01-31"), printed("man 1.2.3 2026-01-31").output);
-    EXPECT_EQ(node::reference::commandReference(), printed("commands").output);
+    EXPECT_EQ(node::reference::commandReference(node::cli::transcript), printed("commands").output);
     EXPECT_EQ(node::reference::bashCompletion(), printed("bash").output);
 }
 

@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/commands/TemporaryFolder.h"
-#include "terminal/Screen.h"
-#include "terminal/Terminal.h"
+#include "support/Screen.h"
+#include "support/TemporaryFolder.h"
+#include "support/Terminal.h"
 
 namespace
 {

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "endtoend/Program.h"
-#include "node/commands/TemporaryFolder.h"
-#include "terminal/Terminal.h"
+#include "support/TemporaryFolder.h"
+#include "support/Terminal.h"
 
 namespace
 {

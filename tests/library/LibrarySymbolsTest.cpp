@@ -179,7 +179,7 @@ TEST_F(LibrarySymbolsTest, NeedsTheLanguagesRuntimeAlone)
 
 TEST_F(LibrarySymbolsTest, IsKnownByItsName)
 {
-    EXPECT_THAT(library.dynamic("SONAME"), ElementsAre("libKelKelDebugCmd.so"));
+    EXPECT_THAT(library.dynamic("SONAME"), ElementsAre(KEL_SONAME));
 }
 
 } // namespace

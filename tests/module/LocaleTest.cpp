@@ -6,10 +6,10 @@
 #include <locale>
 #include <sstream>
 
-#include "locale/CommaLocale.h"
 #include "module/CtStatusTest.h"
 #include "module/Operations.h"
 #include "private/util.h"
+#include "support/CommaLocale.h"
 
 namespace util = kel::device::kelDebugCmd::util;
 using Callback = IRlbspKelApi::KelDebugCmdCallback;

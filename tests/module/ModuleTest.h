@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "module/PlatformTest.h"
 
 /// The module on a recording platform: started on a node with two channels, its start-up calls forgotten.
@@ -13,15 +15,19 @@ protected:
         doubles::calls().clear();
     }
 
+    /// What each call of the top-level API answers.
+    static std::array<kel_top_api::BaseResponse*, 8> apiResponses()
+    {
+        auto& api = doubles::topApi();
+        return {&api.manageXpic,          &api.calibrateDspPps,         &api.setSourceDspPps,
+                &api.setOutputModeDspPps, &api.calibrationStatusDspPps, &api.hopLengthTimeDspPps,
+                &api.radioChannelStatus,  &api.radioChannelCapability};
+    }
+
     /// Makes every service refuse, for that reason.
     void failAllServices(const std::string& reason = "no answer")
     {
-        auto& api = doubles::topApi();
-        const std::initializer_list<kel_top_api::BaseResponse*> responses = {
-            &api.manageXpic,          &api.calibrateDspPps,         &api.setSourceDspPps,
-            &api.setOutputModeDspPps, &api.calibrationStatusDspPps, &api.hopLengthTimeDspPps,
-            &api.radioChannelStatus,  &api.radioChannelCapability};
-        for (auto* const response : responses)
+        for (auto* const response : apiResponses())
         {
             doubles::answer(*response, 1, reason);
         }

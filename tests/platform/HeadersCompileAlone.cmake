@@ -1,6 +1,6 @@
-# add_headers_alone(name ROOT HEADERS... LIBRARIES...): compiles each header below ROOT as a translation unit of its own,
-# included twice. The build is the test: a header that leans on its includer, or that cannot bear a second inclusion,
-# does not build.
+# add_headers_alone(name ROOT HEADERS... LIBRARIES...): compiles each header below ROOT as a translation unit of its
+# own, included twice. The build is the test: a header that leans on its includer, or that cannot bear a second
+# inclusion, does not build.
 function(add_headers_alone name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "ROOT" "HEADERS;LIBRARIES")
     foreach(header IN LISTS ARG_HEADERS)

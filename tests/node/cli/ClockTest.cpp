@@ -7,9 +7,9 @@
 
 #include "node/cli/Session.h"
 #include "node/commands/RecordingDesk.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/output/TextOutput.h"
 #include "node/terminal/Interrupt.h"
+#include "support/TemporaryFolder.h"
 
 using node::cli::Session;
 using node::cli::Status;

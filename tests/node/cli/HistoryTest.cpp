@@ -8,8 +8,8 @@
 #include "node/cli/KeptAnswers.h"
 #include "node/cli/Session.h"
 #include "node/commands/RecordingDesk.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/trace/TraceLibrary.h"
+#include "support/TemporaryFolder.h"
 
 using node::cli::History;
 using node::cli::Session;

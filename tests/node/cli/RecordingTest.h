@@ -12,8 +12,8 @@
 
 #include "node/cli/KeptAnswers.h"
 #include "node/cli/Session.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/trace/TraceLibrary.h"
+#include "support/TemporaryFolder.h"
 
 /// A session at a desk of that kind, and a folder for recordings. Trace levels are as before when it ends.
 template <typename AnyDesk>

@@ -7,9 +7,9 @@
 
 #include "node/cli/SessionTest.h"
 #include "node/commands/Command.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/reference/Help.h"
 #include "node/wording/InputError.h"
+#include "support/TemporaryFolder.h"
 
 using node::cli::AtFailure;
 using node::cli::Status;

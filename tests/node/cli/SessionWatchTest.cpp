@@ -11,9 +11,9 @@
 #include "node/cli/KeptAnswers.h"
 #include "node/cli/Session.h"
 #include "node/commands/RecordingDesk.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/output/JsonOutput.h"
 #include "node/output/TextOutput.h"
+#include "support/TemporaryFolder.h"
 #include "trace/VemTrace.h"
 
 using node::cli::Session;

@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "node/commands/Command.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/scenario/Scenario.h"
 #include "node/trace/TraceLibrary.h"
+#include "support/TemporaryFolder.h"
 
 using node::commands::commandNamed;
 using ::testing::Contains;

@@ -6,9 +6,9 @@
 
 #include "node/cli/Script.h"
 #include "node/cli/Session.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/output/TextOutput.h"
 #include "node/trace/TraceRecorder.h"
+#include "support/TemporaryFolder.h"
 
 using node::cli::Session;
 using node::cli::Status;

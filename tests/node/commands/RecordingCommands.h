@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "node/commands/Value.h"
+#include "node/wording/Number.h"
 #include "radio/IRlbspKelApi.h"
 
 /// The debug commands as a recorder: logs every call with its arguments and answers what it is told to.
@@ -60,7 +60,7 @@ public:
 
     int setDpdCoefficients(RadioChannel channel, DpdCoeffs written) override
     {
-        return answer(fmt::format("setDpdCoefficients({}, {})", channel, node::commands::printCoefficients(written)));
+        return answer(fmt::format("setDpdCoefficients({}, {})", channel, node::wording::printBytes(written.bytes)));
     }
 
     int getDpdCoefficients(RadioChannel channel, DpdCoeffs* read) override

@@ -4,7 +4,7 @@
 
 #include "node/cli/SessionTest.h"
 #include "node/commands/LinkText.h"
-#include "node/commands/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 using node::cli::Status;
 using node::commands::csvHeader;

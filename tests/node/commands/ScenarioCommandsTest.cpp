@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "node/cli/SessionTest.h"
-#include "node/commands/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 using node::cli::Status;
 using node::radio::Ticks;

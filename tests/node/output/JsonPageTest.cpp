@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "node/output/AnswerSchema.h"
 #include "node/output/Json.h"
 #include "node/startup/Node.h"
+#include "support/AnswerSchema.h"
 
 using node::report::fieldsOf;
 

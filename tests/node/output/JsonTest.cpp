@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "node/output/AnswerSamples.h"
 #include "node/output/Json.h"
+#include "support/AnswerSamples.h"
 
 using nlohmann::ordered_json;
 using node::output::Answer;

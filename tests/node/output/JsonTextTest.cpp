@@ -5,10 +5,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include "node/output/AnswerSamples.h"
 #include "node/output/Json.h"
 #include "node/output/JsonText.h"
 #include "node/wording/Number.h"
+#include "support/AnswerSamples.h"
 
 using nlohmann::ordered_json;
 using node::output::addText;

@@ -7,9 +7,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "node/output/AnswerSamples.h"
-#include "node/output/AnswerSchema.h"
 #include "node/output/Json.h"
+#include "support/AnswerSamples.h"
+#include "support/AnswerSchema.h"
 
 using answer_schema::accepts;
 using answer_schema::acceptsAt;

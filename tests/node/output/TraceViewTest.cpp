@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "node/commands/TemporaryFolder.h"
 #include "node/output/Json.h"
 #include "node/wording/InputError.h"
+#include "support/TemporaryFolder.h"
 
 using node::output::TimedMessage;
 using node::output::toJson;

@@ -15,13 +15,13 @@
 
 #include <gtest/gtest.h>
 
-#include "ForeignSignals.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/plot/ChosenPath.h"
 #include "node/plot/Gnuplot.h"
 #include "node/plot/Plot.h"
 #include "node/plot/SmallRun.h"
 #include "node/terminal/Descriptor.h"
+#include "support/ForeignSignals.h"
+#include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
 using node::plot::PlotError;

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "locale/CommaLocale.h"
 #include "node/plot/Script.h"
 #include "node/plot/SmallRun.h"
+#include "support/CommaLocale.h"
 
 using node::plot::Form;
 using node::plot::pictureScript;

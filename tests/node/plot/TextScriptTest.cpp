@@ -4,9 +4,9 @@
 
 #include <gmock/gmock.h>
 
-#include "locale/CommaLocale.h"
 #include "node/plot/Script.h"
 #include "node/plot/SmallRun.h"
+#include "support/CommaLocale.h"
 
 using node::plot::textScript;
 using ::testing::ElementsAre;

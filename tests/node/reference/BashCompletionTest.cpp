@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "node/commands/TemporaryFolder.h"
 #include "node/reference/BashCompletion.h"
-#include "node/reference/Shell.h"
+#include "support/Shell.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -6,25 +7,40 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "node/cli/Transcript.h"
 #include "node/commands/Command.h"
 #include "node/reference/CommandReference.h"
+#include "node/reference/PromptExamples.h"
 
 using node::reference::commandReference;
+using node::reference::promptExample;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
+using ::testing::UnorderedElementsAre;
 
 namespace
 {
 
+/// Instead of a node: the lines alone.
+std::string typedLines(const std::vector<std::string>& lines)
+{
+    std::string text;
+    for (const std::string& line : lines)
+    {
+        text += "> " + line + "\n";
+    }
+    return text;
+}
+
 TEST(CommandReferenceTest, IsThePageInTheTree)
 {
     std::ifstream page(KEL_SOURCE_DIR "/docs/commands.md", std::ios::binary);
-    EXPECT_EQ(commandReference(), std::string(std::istreambuf_iterator<char>(page), {}));
+    EXPECT_EQ(commandReference(node::cli::transcript), std::string(std::istreambuf_iterator<char>(page), {}));
 }
 
 TEST(CommandReferenceTest, BeginsWithHowACommandIsTyped)
 {
-    EXPECT_THAT(commandReference(), StartsWith(R"(# Commands
+    EXPECT_THAT(commandReference(typedLines), StartsWith(R"(# Commands
 
 What `kel-node` carries out: on its command line, in a script, at its prompt.
 
@@ -47,13 +63,17 @@ Report status, capability and identity of a channel.
 |---|---|---|
 | channel | a whole number from 1 to 2 | radio channel |
 
+```
+> getCtStatus 1
+```
+
 ### getBcmModemStatus
 )"));
 }
 
 TEST(CommandReferenceTest, ACommandWithoutArgumentsHasNoTable)
 {
-    EXPECT_THAT(commandReference(), HasSubstr(R"(
+    EXPECT_THAT(commandReference(typedLines), HasSubstr(R"(
 ### showLink
 
 ```
@@ -62,13 +82,17 @@ showLink
 
 Print the link: time, weather, every channel.
 
+```
+> showLink
+```
+
 ### advance
 )"));
 }
 
 TEST(CommandReferenceTest, DetailsStandBelowTheTable)
 {
-    EXPECT_THAT(commandReference(), HasSubstr(R"(
+    EXPECT_THAT(commandReference(typedLines), HasSubstr(R"(
 ### addFault
 
 ```
@@ -84,8 +108,14 @@ Plan a fault of a platform call.
 ```
 Keys:
   channel )"));
-    EXPECT_THAT(commandReference(), HasSubstr(R"(
+    EXPECT_THAT(commandReference(typedLines), HasSubstr(R"(
              How many calls to hit; without this key, all that follow
+```
+
+```
+> addFault tiManageXpic text="no answer" calls=1
+> getXpicPreamble 1
+> getXpicPreamble 1
 ```
 
 ### listFaults
@@ -95,8 +125,24 @@ Keys:
 TEST(CommandReferenceTest, MarksOfMarkdownAreEscaped)
 {
     EXPECT_THAT(
-        commandReference(),
+        commandReference(typedLines),
         HasSubstr("| channels | a name, with \\* for any letters and ? for any one | which trace channels |\n"));
+}
+
+TEST(CommandReferenceTest, ShowsEachCommandAtWorkButThoseOfFilesAndTheTerminal)
+{
+    std::vector<std::string> without;
+    for (const std::string& name : node::commands::commandNames())
+    {
+        const auto example = promptExample(node::commands::commandNamed(name));
+        const auto shows = [&](const std::string& line) { return line == name || line.starts_with(name + " "); };
+        if (std::none_of(example.begin(), example.end(), shows))
+        {
+            without.push_back(name);
+        }
+    }
+    EXPECT_THAT(without,
+                UnorderedElementsAre("plot", "record", "stopRecord", "replay", "traceFile", "stopTraceFile", "exit"));
 }
 
 TEST(CommandReferenceTest, HasEveryCommandUnderItsGroup)
@@ -111,7 +157,7 @@ TEST(CommandReferenceTest, HasEveryCommandUnderItsGroup)
         }
     }
     std::string found;
-    std::istringstream lines(commandReference());
+    std::istringstream lines(commandReference(typedLines));
     for (std::string line; std::getline(lines, line);)
     {
         found += line.starts_with("##") ? line + "\n" : "";

@@ -7,12 +7,12 @@
 #include <gtest/gtest.h>
 
 #include "node/commands/Command.h"
-#include "node/commands/TemporaryFolder.h"
 #include "node/reference/Help.h"
 #include "node/reference/HowTo.h"
 #include "node/reference/ManPage.h"
 #include "node/reference/ProgramOptions.h"
-#include "node/reference/Shell.h"
+#include "support/Shell.h"
+#include "support/TemporaryFolder.h"
 
 using ::testing::HasSubstr;
 
@@ -210,7 +210,7 @@ FILES
 TEST_F(ManPageTest, ShowsEachExampleAsItIsTyped)
 {
     const std::string text = inShell("groff -man -Tutf8 -rLL=78n -P-cbou " + page).output;
-    for (const auto& example : node::reference::examples())
+    for (const auto& example : node::reference::shellExamples())
     {
         EXPECT_THAT(text, HasSubstr("\n       " + example.purpose + ":\n           $ " + example.line + "\n"));
     }

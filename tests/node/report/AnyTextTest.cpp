@@ -9,8 +9,8 @@
 
 #include <fmt/format.h>
 
-#include "locale/CommaLocale.h"
 #include "node/report/FieldText.h"
+#include "support/CommaLocale.h"
 
 using node::report::Field;
 using node::report::fieldsOf;

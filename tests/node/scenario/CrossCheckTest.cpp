@@ -5,8 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "node/scenario/Portrait.h"
 #include "node/scenario/ScenarioText.h"
+#include "support/Portrait.h"
 
 using node::radio::Profile;
 using scenario_text::parse;

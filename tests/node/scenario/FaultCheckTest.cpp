@@ -6,8 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "node/scenario/Portrait.h"
 #include "node/scenario/ScenarioText.h"
+#include "support/Portrait.h"
 
 using scenario_text::parse;
 using scenario_text::refusal;

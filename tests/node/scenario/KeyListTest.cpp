@@ -7,7 +7,7 @@
 
 #include "node/scenario/KeyList.h"
 #include "node/scenario/Keys.h"
-#include "node/scenario/Portrait.h"
+#include "support/Portrait.h"
 
 namespace scenario = node::scenario;
 using ::testing::Contains;

@@ -9,8 +9,8 @@
 #include <fmt/format.h>
 
 #include "node/scenario/KeyList.h"
-#include "node/scenario/Portrait.h"
 #include "node/scenario/ScenarioText.h"
+#include "support/Portrait.h"
 
 using key_list::Row;
 using key_list::Takes;

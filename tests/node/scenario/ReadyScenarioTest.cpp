@@ -9,9 +9,9 @@
 #include <gtest/gtest.h>
 
 #include "node/scenario/KeyList.h"
-#include "node/scenario/Portrait.h"
 #include "node/scenario/Reference.h"
 #include "node/scenario/Scenario.h"
+#include "support/Portrait.h"
 
 namespace scenario = node::scenario;
 using ::testing::Contains;

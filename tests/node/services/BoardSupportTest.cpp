@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "node/commands/RecordingCommands.h"
 #include "node/services/BoardSupport.h"
 #include "node/services/FaultOf.h"
-#include "node/services/SilentCommands.h"
 
 using node::services::BoardSupport;
 using node::services::FaultPlan;
@@ -16,8 +16,8 @@ class BoardSupportTest : public ::testing::Test
 protected:
     FaultPlan faults;
     BoardSupport boardSupport{faults};
-    SilentCommands first;
-    SilentCommands last;
+    RecordingCommands first;
+    RecordingCommands last;
 };
 
 TEST_F(BoardSupportTest, StartsWithoutACallback)

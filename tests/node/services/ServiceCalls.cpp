@@ -8,11 +8,11 @@
 #include "kel_top_api/CriSetOutputModeDspPps.h"
 #include "kel_top_api/CriSetSourceDspPps.h"
 #include "kel_top_api/TiManageXpic.h"
+#include "node/commands/RecordingCommands.h"
 #include "node/services/DpdController.h"
 #include "node/services/ModemStatus.h"
 #include "node/services/RadioChannelNearEnd.h"
 #include "node/services/RecordText.h"
-#include "node/services/SilentCommands.h"
 
 using namespace kel_top_api;
 using node::services::DpdController;
@@ -152,7 +152,7 @@ std::vector<ServiceCall> otherCalls()
         {"IRlbspKelApi.installDebugCmdCallback", std::nullopt, !Text,
          [](CallBench& bench, RadioChannel)
          {
-             static SilentCommands commands;
+             static RecordingCommands commands;
              bench.boardSupport.installDebugCmdCallback(&commands);
              return Outcome{};
          },

@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
-#include "node/commands/TemporaryFolder.h"
 #include "node/terminal/Descriptor.h"
-#include "terminal/Screen.h"
-#include "terminal/Terminal.h"
+#include "support/Screen.h"
+#include "support/TemporaryFolder.h"
+#include "support/Terminal.h"
 
 /// Where an editor runs.
 struct Surroundings

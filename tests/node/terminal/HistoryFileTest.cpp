@@ -10,9 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "node/commands/TemporaryFolder.h"
 #include "node/terminal/Descriptor.h"
 #include "node/terminal/HistoryFile.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "node/commands/TemporaryFolder.h"
 #include "node/terminal/EditorSession.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {

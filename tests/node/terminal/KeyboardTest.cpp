@@ -11,8 +11,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ForeignSignals.h"
 #include "node/terminal/TypedInput.h"
+#include "support/ForeignSignals.h"
 
 namespace
 {

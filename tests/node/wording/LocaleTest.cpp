@@ -5,12 +5,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "locale/CommaLocale.h"
 #include "node/scenario/FaultKeys.h"
-#include "node/scenario/Portrait.h"
 #include "node/scenario/Reference.h"
 #include "node/scenario/ScenarioText.h"
 #include "node/wording/Number.h"
+#include "support/CommaLocale.h"
+#include "support/Portrait.h"
 
 using ::testing::ElementsAreArray;
 

@@ -1,4 +1,4 @@
-#include "node/commands/Binding.h"
+#include "node/commands/Words.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,4 +1,4 @@
-#include "node/output/AnswerSchema.h"
+#include "support/AnswerSchema.h"
 
 #include <fstream>
 #include <memory>
@@ -8,8 +8,8 @@
 #include <valijson/schema_parser.hpp>
 #include <valijson/validator.hpp>
 
-#include "node/output/AnswerSamples.h"
 #include "node/output/Json.h"
+#include "support/AnswerSamples.h"
 
 namespace answer_schema
 {

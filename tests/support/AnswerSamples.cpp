@@ -1,4 +1,4 @@
-#include "node/output/AnswerSamples.h"
+#include "support/AnswerSamples.h"
 
 using node::commands::Outcome;
 using node::output::Answer;

@@ -1,4 +1,4 @@
-#include "terminal/Terminal.h"
+#include "support/Terminal.h"
 
 #include <algorithm>
 #include <array>

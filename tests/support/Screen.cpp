@@ -1,4 +1,4 @@
-#include "terminal/Screen.h"
+#include "support/Screen.h"
 
 #include <algorithm>
 

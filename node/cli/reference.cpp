@@ -1,6 +1,7 @@
 #include <iostream>
 #include <string>
 
+#include "node/cli/Transcript.h"
 #include "node/reference/BashCompletion.h"
 #include "node/reference/CommandReference.h"
 #include "node/reference/ManPage.h"
@@ -15,7 +16,7 @@ int main(int argc, char** argv)
     }
     else if (what == "commands" && argc == 2)
     {
-        std::cout << node::reference::commandReference();
+        std::cout << node::reference::commandReference(node::cli::transcript);
     }
     else if (what == "bash" && argc == 2)
     {

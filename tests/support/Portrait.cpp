@@ -1,4 +1,4 @@
-#include "node/scenario/Portrait.h"
+#include "support/Portrait.h"
 
 #include <algorithm>
 #include <iterator>

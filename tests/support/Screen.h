@@ -5,7 +5,7 @@
 
 #include <vterm.h>
 
-#include "terminal/Terminal.h"
+#include "support/Terminal.h"
 
 /// What a person sees at a terminal: the rows that its program's output has left there.
 class Screen
