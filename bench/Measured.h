@@ -38,7 +38,7 @@ Measured measured(std::string name, std::function<void()> prepare, Call call)
     return {std::move(name), std::move(prepare), run};
 }
 
-/// The sixteen operations: "module"; "bare", the calls of the same services with the same records; "floor", the same
+/// The operations: "module"; "bare", the calls of the same services with the same records; "floor", the same
 /// text by fmt; "failed", the module while its first service fails and the trace is silent, "failed last" while its
 /// last one does.
 std::vector<Measured> operations();

@@ -7,10 +7,10 @@
 namespace fuzz
 {
 
-/// The sixteen operations of a class that has a member of each one's name. Inputs choose by the place in this list: the
+/// The operations of a class that has a member of each one's name. Inputs choose by the place in this list: the
 /// seeds and findings mean something else in another order.
 template <typename Operations>
-inline constexpr std::array<void (Operations::*)(RadioChannel), 16> EveryOperation = {
+inline constexpr std::array EveryOperation = {
     &Operations::getCtStatus,         &Operations::getBcmModemStatus,  &Operations::getPpsCalibrationStatus,
     &Operations::getPpsHopLengthTime, &Operations::calibratePps,       &Operations::setPpsSource,
     &Operations::setPpsOutputMode,    &Operations::startDpd,           &Operations::stopDpd,

@@ -104,7 +104,7 @@ std::string startOf(const Scenario& scenario)
     }
     catch (const node::startup::StartUpError& error)
     {
-        const std::string text = error.what();
+        std::string text = error.what();
         expect(text.starts_with("module KelDebugCmd: "), "a start that fails names what failed", text);
         return text;
     }

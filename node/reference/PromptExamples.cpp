@@ -32,7 +32,7 @@ const std::map<std::string, Lines> Examples = {
     {"loadScenario", {"loadScenario rain-front", "advance 3min", "getBcmModemStatus 1"}},
     {"listScenarios", {"listScenarios"}},
     {"addFault", {"addFault tiManageXpic text=\"no answer\" calls=1", "getXpicPreamble 1", "getXpicPreamble 1"}},
-    {"listFaults", {"addFault IDpdControllerSplit::start calls=2", "startDpd 1", "listFaults"}},
+    {"listFaults", {"addFault IDpdControllerSplit.start calls=2", "startDpd 1", "listFaults"}},
     {"clearFaults", {"addFault criGetHopLengthTimeDspPps", "clearFaults", "listFaults"}},
     {"listCalls", {"listCalls"}},
     {"setTraceLevel",

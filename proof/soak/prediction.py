@@ -81,7 +81,7 @@ class Prediction:
         self._channels = {1: Channel(), 2: Channel()}
 
     def answer(self, command: str, channel: int, arguments: list[str]) -> Answer:
-        """One of the sixteen operations is called."""
+        """One of the operations is called."""
         calls = CALLS[command]
         for call in calls:
             fault = self.plan.call(call, channel)

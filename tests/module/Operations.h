@@ -20,7 +20,7 @@ struct Output
     }
 };
 
-/// One of the sixteen operations, with arguments that the module accepts.
+/// One of the operations, with arguments that the module accepts.
 template <typename Commands>
 struct Operation
 {
@@ -33,7 +33,7 @@ struct Operation
     }
 };
 
-/// The sixteen operations, in the order of the callback interface.
+/// The operations, all of them, in the order of the callback interface.
 template <typename Commands>
 std::vector<Operation<Commands>> operations()
 {

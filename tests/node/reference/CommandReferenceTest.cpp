@@ -14,7 +14,9 @@
 
 using node::reference::commandReference;
 using node::reference::promptExample;
+using ::testing::ContainsRegex;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 using ::testing::UnorderedElementsAre;
 
@@ -36,6 +38,12 @@ TEST(CommandReferenceTest, IsThePageInTheTree)
 {
     std::ifstream page(KEL_SOURCE_DIR "/docs/commands.md", std::ios::binary);
     EXPECT_EQ(commandReference(node::cli::transcript), std::string(std::istreambuf_iterator<char>(page), {}));
+}
+
+TEST(CommandReferenceTest, NoExampleIsMistyped)
+{
+    // An operation that fails is worth showing; a line that is refused is a mistake of the page's.
+    EXPECT_THAT(commandReference(node::cli::transcript), Not(ContainsRegex("\nkel-node: [^\n]*: found ")));
 }
 
 TEST(CommandReferenceTest, BeginsWithHowACommandIsTyped)
