@@ -1,11 +1,12 @@
-#include <cstdlib>
-#include <fstream>
+#include <filesystem>
 #include <string>
+#include <string_view>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "endtoend/PageExamples.h"
+#include "support/Shell.h"
 #include "support/TemporaryFolder.h"
 #include "support/Terminal.h"
 
@@ -17,10 +18,8 @@ namespace
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-std::string quoted(const std::string& text)
-{
-    return "'" + text + "'";
-}
+/// The file for CMake that describes another machine; empty where the tests run on this one.
+constexpr std::string_view Toolchain = KEL_TOOLCHAIN;
 
 /// The text with something else in each place of `what`.
 std::string replaced(std::string text, const std::string& what, const std::string& with)
@@ -36,17 +35,16 @@ class ConsumerTest : public ::testing::Test
 {
 protected:
     /// Runs a command of the shell to its end; what it said where it failed.
-    std::string complaintOf(const std::string& command) const
+    static std::string complaintOf(const std::string& command)
     {
-        const std::string log = m_folder.pathOf("log");
-        return std::system(("{ " + command + "; } >" + quoted(log) + " 2>&1").c_str()) == 0 ? "" : m_folder.read("log");
+        const Ended ended = inShell(command);
+        return ended.status == 0 ? "" : ended.output;
     }
 
     std::string configured(const std::string& source, const std::string& build, const std::string& options) const
     {
-        const std::string toolchain = KEL_TOOLCHAIN;
-        return quoted(KEL_CMAKE) + " -G Ninja -S " + quoted(source) + " -B " + quoted(m_folder.pathOf(build)) + " " +
-               options + (toolchain.empty() ? "" : " --toolchain " + quoted(toolchain));
+        return shellWord(KEL_CMAKE) + " -G Ninja -S " + shellWord(source) + " -B " + shellWord(m_folder.pathOf(build)) +
+               " " + options + (Toolchain.empty() ? "" : " --toolchain " + shellWord(std::string(Toolchain)));
     }
 
     std::string installed() const
@@ -56,8 +54,8 @@ protected:
 
     void install() const
     {
-        ASSERT_EQ("", complaintOf(quoted(KEL_CMAKE) + " --install " + quoted(KEL_BUILD) + " --prefix " +
-                                  quoted(installed())));
+        ASSERT_EQ("", complaintOf(shellWord(KEL_CMAKE) + " --install " + shellWord(KEL_BUILD) + " --prefix " +
+                                  shellWord(installed())));
     }
 
     /// Configures a project that looks for what is installed.
@@ -65,28 +63,29 @@ protected:
                                            const std::string& options) const
     {
         return configured(source, build,
-                          "-DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -DCMAKE_PREFIX_PATH=" + quoted(installed()) + " " +
-                              options);
+                          "-DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -DCMAKE_PREFIX_PATH=" + shellWord(installed()) +
+                              " " + options);
     }
 
     /// What the example prints, built by CMake with what is installed; what went wrong where something did.
     std::string reportOfANodeByCMake(const std::string& flags) const
     {
-        const std::string options = "-DCMAKE_CXX_FLAGS=" + quoted(flags);
-        const std::string complaint = complaintOf(configuredWithTheInstalled(Node, "node", options) + " && " +
-                                                  quoted(KEL_CMAKE) + " --build " + quoted(m_folder.pathOf("node")));
-        return complaint.empty() ? outputOf(KEL_EMULATOR " " + quoted(m_folder.pathOf("node/node"))) : complaint;
+        const std::string options = "-DCMAKE_CXX_FLAGS=" + shellWord(flags);
+        const std::string complaint =
+            complaintOf(configuredWithTheInstalled(Node, "node", options) + " && " + shellWord(KEL_CMAKE) +
+                        " --build " + shellWord(m_folder.pathOf("node")));
+        return complaint.empty() ? outputOf(KEL_EMULATOR " " + shellWord(m_folder.pathOf("node/node"))) : complaint;
     }
 
     /// The same by pkg-config and the compiler alone.
     std::string reportOfANodeByPkgConfig(const std::string& flags) const
     {
         const std::string libraries = installed() + "/" KEL_LIBRARIES;
-        const std::string program = quoted(m_folder.pathOf("program"));
-        const std::string complaint =
-            complaintOf("export PKG_CONFIG_PATH=" + quoted(libraries + "/pkgconfig") + "; " KEL_CXX " -std=c++20 " +
-                        flags + " " + quoted(Node) + "/*.cpp $(pkg-config --cflags --libs kel-debug-cmd) -Wl,-rpath," +
-                        quoted(libraries) + " -o " + program);
+        const std::string program = shellWord(m_folder.pathOf("program"));
+        const std::string complaint = complaintOf("export PKG_CONFIG_PATH=" + shellWord(libraries + "/pkgconfig") +
+                                                  "; " KEL_CXX " -std=c++20 " + flags + " " + shellWord(Node) +
+                                                  "/*.cpp $(pkg-config --cflags --libs kel-debug-cmd) -Wl,-rpath," +
+                                                  shellWord(libraries) + " -o " + program);
         return complaint.empty() ? outputOf(KEL_EMULATOR " " + program) : complaint;
     }
 
@@ -136,8 +135,8 @@ TEST_F(ConsumerTest, TheModuleIsBuiltWithTheHeadersOfAnotherPlatform)
     const std::string headers = m_folder.pathOf("closed");
     std::filesystem::copy(KEL_SOURCE_DIR "/platform", headers, std::filesystem::copy_options::recursive);
     // What the records have in common is their own affair.
-    ASSERT_EQ(
-        "", complaintOf("sed -i 's/modulationAndCodeName/nameInTheirWords/' " + quoted(headers) + "/kel_top_api/*.h"));
+    ASSERT_EQ("", complaintOf("sed -i 's/modulationAndCodeName/nameInTheirWords/' " + shellWord(headers) +
+                              "/kel_top_api/*.h"));
     // By the commands of the page, in a copy of what they need of the tree, for they build below it.
     const std::string tree = m_folder.pathOf("tree");
     std::filesystem::create_directory(tree);
@@ -146,20 +145,19 @@ TEST_F(ConsumerTest, TheModuleIsBuiltWithTheHeadersOfAnotherPlatform)
         std::filesystem::copy(KEL_SOURCE_DIR "/" + part, m_folder.pathOf("tree/" + part),
                               std::filesystem::copy_options::recursive);
     }
-    const std::string toolchain = KEL_TOOLCHAIN;
     // Ninja tells what was read.
-    const std::string around = "cd " + quoted(tree) + " && export CMAKE_GENERATOR=Ninja" +
-                               (toolchain.empty() ? "" : " && export CMAKE_TOOLCHAIN_FILE=" + quoted(toolchain)) +
-                               " && ";
+    const std::string around =
+        "cd " + shellWord(tree) + " && export CMAKE_GENERATOR=Ninja" +
+        (Toolchain.empty() ? "" : " && export CMAKE_TOOLCHAIN_FILE=" + shellWord(std::string(Toolchain))) + " && ";
     const auto examples = examplesOf("docs/integration.md");
     EXPECT_EQ(3U, examples.size());
     for (const Example& example : examples)
     {
-        const std::string command = replaced(example.command, "/path/to/headers", quoted(headers));
-        ASSERT_EQ("", complaintOf(around + replaced(command, "/where/it/goes", quoted(installed())))) << command;
+        const std::string command = replaced(example.command, "/path/to/headers", shellWord(headers));
+        ASSERT_EQ("", complaintOf(around + replaced(command, "/where/it/goes", shellWord(installed())))) << command;
     }
 
-    const std::string read = outputOf("ninja -C " + quoted(tree + "/build/mine") + " -t deps");
+    const std::string read = outputOf("ninja -C " + shellWord(tree + "/build/mine") + " -t deps");
     EXPECT_THAT(read, HasSubstr(headers + "/framework/ModuleInterface.h"));
     EXPECT_THAT(read, HasSubstr(tree + "/src/Device/KelDebugCmd/KelDebugCmd.h"));
     EXPECT_THAT(read, Not(HasSubstr(KEL_SOURCE_DIR "/platform/")));
@@ -169,7 +167,7 @@ TEST_F(ConsumerTest, TheModuleIsBuiltWithTheHeadersOfAnotherPlatform)
     EXPECT_FALSE(m_folder.has("installed/include/kel-debug-cmd/platform"));
     EXPECT_THAT(m_folder.read("installed/" KEL_LIBRARIES "/pkgconfig/kel-debug-cmd.pc"), Not(HasSubstr("platform")));
     EXPECT_EQ(Report, reportOfANodeByCMake("-I" + headers));
-    EXPECT_EQ(Report, reportOfANodeByPkgConfig("-I" + quoted(headers)));
+    EXPECT_EQ(Report, reportOfANodeByPkgConfig("-I" + shellWord(headers)));
 }
 
 } // namespace
