@@ -1,6 +1,5 @@
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,8 +17,11 @@ namespace
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-/// The file for CMake that describes another machine; empty where the tests run on this one.
-constexpr std::string_view Toolchain = KEL_TOOLCHAIN;
+/// The text with a value behind it; nothing without a value.
+std::string option(const std::string& text, const std::string& value)
+{
+    return value.empty() ? "" : text + shellWord(value);
+}
 
 /// The text with something else in each place of `what`.
 std::string replaced(std::string text, const std::string& what, const std::string& with)
@@ -44,7 +46,7 @@ protected:
     std::string configured(const std::string& source, const std::string& build, const std::string& options) const
     {
         return shellWord(KEL_CMAKE) + " -G Ninja -S " + shellWord(source) + " -B " + shellWord(m_folder.pathOf(build)) +
-               " " + options + (Toolchain.empty() ? "" : " --toolchain " + shellWord(std::string(Toolchain)));
+               " " + options + option(" --toolchain ", KEL_TOOLCHAIN);
     }
 
     std::string installed() const
@@ -146,9 +148,8 @@ TEST_F(ConsumerTest, TheModuleIsBuiltWithTheHeadersOfAnotherPlatform)
                               std::filesystem::copy_options::recursive);
     }
     // Ninja tells what was read.
-    const std::string around =
-        "cd " + shellWord(tree) + " && export CMAKE_GENERATOR=Ninja" +
-        (Toolchain.empty() ? "" : " && export CMAKE_TOOLCHAIN_FILE=" + shellWord(std::string(Toolchain))) + " && ";
+    const std::string around = "cd " + shellWord(tree) + " && export CMAKE_GENERATOR=Ninja" +
+                               option(" && export CMAKE_TOOLCHAIN_FILE=", KEL_TOOLCHAIN) + " && ";
     const auto examples = examplesOf("docs/integration.md");
     EXPECT_EQ(3U, examples.size());
     for (const Example& example : examples)
