@@ -15,7 +15,6 @@
 #include "node/services/PlatformCall.h"
 #include "node/trace/TraceLibrary.h"
 
-using node::commands::Outcome;
 using node::report::Field;
 using ::testing::Contains;
 using ::testing::ElementsAre;
